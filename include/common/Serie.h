@@ -1,0 +1,59 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "common/Date.h"
+#include "common/Interval.h"
+#include "core/Enum.h"
+#include "core/EnumTypes.h"
+
+// A dated series of values, stored sparsely by Julian day number. A date without an entry reads
+// as -999.0, the mark of a missing value. The interval is what the series claims to cover;
+// setting it neither adds nor removes values, and values outside it are kept.
+class Serie {
+ public:
+  static constexpr double kEmptyValue = -999.0;
+
+  Serie(const Interval& interval, Enum<SerieType> type, const Enum<Unit>& unit);
+  virtual ~Serie() = default;
+
+  // The value at date, or -999.0 when the date has no entry.
+  double getValue(const Date& date) const;
+  // As above; julian receives the day number when an entry is found and is untouched otherwise.
+  double getValue(const Date& date, int& julian) const;
+  void setValue(const Date& date, double value);
+  void setValue(unsigned int julian, double value);
+
+  // Writes value on each period of the series' own interval.
+  void fill(double value);
+  // Writes value on each period of interval, stepping by its periodicity.
+  void fill(double value, const Interval& interval);
+  // Removes every value; interval, type and unit stay.
+  void clear();
+  // True without values, or when every value is -999.0 within 1e-6.
+  bool isEmpty() const;
+  std::size_t size() const { return mapOfJulianToValues.size(); }
+
+  const std::map<unsigned int, double>& getMapOfJulianToValues() const {
+    return mapOfJulianToValues;
+  }
+  const Interval& getInterval() const { return interval; }
+  void setInterval(const Interval& newInterval) { interval = newInterval; }
+  const std::string& getName() const { return type.getName(); }
+  const Enum<Unit>& getUnit() const { return unit; }
+  SerieType getType() const { return type.getType(); }
+  const Enum<SerieType>& getEnumType() const { return type; }
+
+  // A new series with the same interval, type, unit and values.
+  std::shared_ptr<Serie> copy() const;
+  // Takes interval, type, unit and values from other.
+  void copyFrom(const std::shared_ptr<Serie>& other);
+
+ private:
+  std::map<unsigned int, double> mapOfJulianToValues;
+  Interval interval;
+  Enum<SerieType> type;
+  Enum<Unit> unit;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <memory>
+
+#include "core/RuleSettings.h"
+#include "rules/ReleaseRule.h"
+
+// A reservoir in a rule scenario: its allocation matrix and its release rule (null until one is
+// chosen). Copies own a copy of the rule, so two scenarios never share one.
+class ReservoirRuleSettings : public CopyableSettings<ReservoirRuleSettings, RuleSettings> {
+ public:
+  const std::shared_ptr<ReleaseRule>& getRule() const { return rule; }
+  void setRule(const std::shared_ptr<ReleaseRule>& value) { rule = value; }
+
+  void copyFrom(const std::shared_ptr<Settings>& other) override;
+
+ private:
+  std::shared_ptr<ReleaseRule> rule;
+};

@@ -1,0 +1,140 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "checks/SceneryCheck.h"
+#include "common/Interval.h"
+#include "core/Element.h"
+#include "core/Enum.h"
+#include "core/SettingsManager.h"
+
+class ExecutionMethod;
+class OperationSystem;
+
+// One way of operating the network over an interval. A scenario owns its elements, the settings
+// of each, its execution method and the operation of its last run. run() prepares the elements,
+// validates, creates empty results, and hands an operation system to the execution method,
+// which walks the dates. Its outcome is the scenario's status.
+class Scenario : public std::enable_shared_from_this<Scenario> {
+ public:
+  using Elements = std::vector<std::shared_ptr<Element>>;
+  using Progress = std::function<bool(long, long)>;
+
+  Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned int id,
+           const Interval& interval, const std::string& name);
+  virtual ~Scenario() = default;
+
+  virtual Enum<ScenarioType> getScenarioType() const = 0;
+
+  // Adds element with the next free id (renamed "<type name><id>" when rename is true), makes
+  // its settings and gives its series the scenario's interval.
+  virtual void addElement(const std::shared_ptr<Element>& element, bool rename);
+  // As above with a given id; later ids stay above it.
+  virtual void addElement(const std::shared_ptr<Element>& element, bool rename, unsigned int id);
+  // Detaches and removes the element with id and its settings. Throws std::invalid_argument
+  // "Scenario::removeElement(): invalid elementId" for an unknown id.
+  virtual void removeElement(unsigned int id);
+  // Completes an element once it is attached to the network (links to their nodes).
+  virtual void posAddElement(const std::shared_ptr<Element>& element, bool rename);
+  void addElements(const Elements& newElements, bool rename);
+  void addElementsKeepingIDs(const Elements& newElements, bool rename);
+
+  // Runs the scenario; false when it was refused by its checks, cancelled or stopped by a loop.
+  // Results of a refused run are left as they were; those of a cancelled run are dropped.
+  virtual bool run(const Progress& progress);
+  // A deep copy: elements, links, settings, rules and execution method.
+  std::shared_ptr<Scenario> copy() const;
+
+  void preRun();
+  void createResults();
+  void clearResultSeries();
+  virtual void clearAllResults();
+  // 1 without a check object, 0 when the check passes, 2 when it fails.
+  int executeSceneryCheck();
+
+  const std::shared_ptr<Element>& getElement(unsigned int id) const;
+  std::shared_ptr<Element> getElement(const std::string& name) const;
+  const Elements& getElements() const { return elements; }
+  // The elements ordered by id.
+  Elements getSortedElements() const;
+  unsigned int getId() const { return id; }
+  unsigned int getDatabaseId() const { return databaseId; }
+  void setDatabaseId(unsigned int value) { databaseId = value; }
+  const Interval& getInterval() const { return interval; }
+  // Takes the new interval and drops all results.
+  void setInterval(const Interval& value);
+  const std::string& getName() const { return name; }
+  void setName(const std::string& value) { name = value; }
+  const std::shared_ptr<ExecutionMethod>& getExecutionMethod() const { return executionMethod; }
+  void setExecutionMethod(const std::shared_ptr<ExecutionMethod>& method);
+  const std::shared_ptr<SceneryCheck>& getSceneryCheck() const { return sceneryCheck; }
+  void setSceneryCheck(const std::shared_ptr<SceneryCheck>& check) { sceneryCheck = check; }
+  const Enum<SceneryStatus>& getSceneryStatus() const { return sceneryStatus; }
+  const std::shared_ptr<OperationSystem>& getCurrentOperationSystem() const {
+    return currentOperationSystem;
+  }
+  unsigned int getEPSGCode() const { return epsgCode; }
+  void setEPSGCode(unsigned int value) { epsgCode = value; }
+  unsigned int getMaxElementId() const { return maxElementId; }
+  SettingsManager& getSettingsManager() { return settingsManager; }
+  const SettingsManager& getSettingsManager() const { return settingsManager; }
+  const std::map<std::string, std::vector<int>>& getLabelElementsSelects() const {
+    return labelElementsSelects;
+  }
+  void setLabelElementsSelects(const std::map<std::string, std::vector<int>>& value) {
+    labelElementsSelects = value;
+  }
+
+  // True when every enabled element has results.
+  bool hasResults() const;
+  bool hasBidirectionalLink() const;
+  // True when the enabled network has a loop; its ids are kept for getIdsOfElementsInLoop().
+  bool hasLoop();
+  const std::vector<unsigned int>& getIdsOfElementsInLoop() const { return idsOfElementsInLoop; }
+  // The links whose inflow reached their limit on some date of window 0.
+  std::vector<std::shared_ptr<Element>> getVectorOfLinksWithBurst() const;
+
+  // The element's settings as T. Throws std::invalid_argument
+  // "Passed element is not valid for element setting" when they are of another class.
+  template <typename T>
+  static std::shared_ptr<T> getSettings(const std::shared_ptr<Element>& element,
+                                        const SettingsManager& settingsManager) {
+    auto settings = std::dynamic_pointer_cast<T>(settingsManager.getSettings(element->getId()));
+    if (!settings) throw std::invalid_argument("Passed element is not valid for element setting");
+    return settings;
+  }
+
+ protected:
+  // The operation system of one run of this kind of scenario.
+  virtual std::shared_ptr<OperationSystem> getOperationSystem() = 0;
+  // A new, empty scenario of the same class with the same settings of its own kind.
+  virtual std::shared_ptr<Scenario> copySpecific() const = 0;
+  // Gives the scenario's interval to every element's series.
+  virtual void setSeriesIntervalsElements();
+  void setSceneryStatus(SceneryStatus status);
+
+ private:
+  void insertElement(const std::shared_ptr<Element>& element, bool rename, unsigned int id);
+  void copyNetworkInto(Scenario& target) const;
+
+  std::map<unsigned int, bool> usedElementIds;
+  Elements elements;
+  Interval interval;
+  unsigned int maxElementId = 0;
+  unsigned int id;
+  unsigned int databaseId = 0;
+  std::string name;
+  std::shared_ptr<ExecutionMethod> executionMethod;
+  SettingsManager settingsManager;
+  std::shared_ptr<SceneryCheck> sceneryCheck;
+  std::map<std::string, std::vector<int>> labelElementsSelects;
+  unsigned int epsgCode = 4674;
+  Enum<SceneryStatus> sceneryStatus;
+  std::shared_ptr<OperationSystem> currentOperationSystem;
+  std::vector<unsigned int> idsOfElementsInLoop;
+};

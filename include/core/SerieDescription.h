@@ -1,0 +1,9 @@
+#pragma once
+
+#include "core/EnumTypes.h"
+
+// The kind and unit of one series of a container.
+struct SerieDescription {
+  SerieType type;
+  Unit unit;
+};

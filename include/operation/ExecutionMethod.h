@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "common/Date.h"
+#include "common/Interval.h"
+#include "core/Element.h"
+#include "core/Enum.h"
+#include "core/SettingsManager.h"
+
+class OperationSystem;
+
+// How a scenario walks its interval: continuously, in yearly windows, or under an optimiser or
+// a guarantee search. It also prepares the elements before a run.
+class ExecutionMethod {
+ public:
+  using Elements = std::vector<std::shared_ptr<Element>>;
+  using Progress = std::function<bool(long, long)>;
+
+  virtual ~ExecutionMethod() = default;
+
+  // Gives each enabled element empty result containers for the run, with the interval's dates.
+  virtual void createResults(const Elements& elements, const Interval& interval,
+                             const Enum<ScenarioType>& scenarioType) = 0;
+  // Runs the operation at each date; false when the progress callback cancelled.
+  virtual bool run(const Interval& interval, const std::shared_ptr<OperationSystem>& operation,
+                   const Progress& progress) = 0;
+
+  // A copy of the concrete method with the same settings.
+  std::shared_ptr<ExecutionMethod> copy() const;
+
+  // Each enabled drain demands 99999.0 m³/s on every period of interval, so it takes whatever
+  // reaches it.
+  static void configureDrainDemands(const Elements& drains, const Interval& interval);
+  // Hands zeroContribution to each reservoir's rule. Throws std::invalid_argument
+  // "Passed element is not valid for element setting" for a reservoir without rule settings.
+  void configureZeroContribution(const SettingsManager& settingsManager,
+                                 const Elements& reservoirs) const;
+  // Keeps each reservoir's link lists, from which inversions are undone.
+  static void backupReservoirsLinks(const Elements& reservoirs);
+
+  const Enum<ExecutionType>& getExecutionType() const { return executionType; }
+  unsigned int getWindowSize() const { return windowSize; }
+  void setWindowSize(unsigned int value) { windowSize = value; }
+  bool getZeroContribution() const { return zeroContribution; }
+  void setZeroContribution(bool value) { zeroContribution = value; }
+  const std::vector<std::pair<Date, bool>>& getYearsDate() const { return yearsDate; }
+  void setYearsDate(const std::vector<std::pair<Date, bool>>& value) { yearsDate = value; }
+  unsigned int getInitialMonth() const { return initialMonth; }
+  void setInitialMonth(unsigned int value) { initialMonth = static_cast<unsigned char>(value); }
+
+ protected:
+  explicit ExecutionMethod(ExecutionType type);
+  virtual std::shared_ptr<ExecutionMethod> copySpecific() const = 0;
+
+ private:
+  Enum<ExecutionType> executionType;
+  unsigned int windowSize = 12;  // periods of a window
+  bool zeroContribution = false;
+  std::vector<std::pair<Date, bool>> yearsDate;  // start of each window, and whether it runs
+  unsigned char initialMonth = 1;                // month in which windows start
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <memory>
+
+#include "common/Interval.h"
+#include "operation/ExecutionMethod.h"
+
+// Makes an execution method by its type. Throws std::invalid_argument
+// "ExecutionMethodFactoryByType::make(): invalid executionType" for a type without a method.
+class ExecutionMethodFactoryByType {
+ public:
+  static std::shared_ptr<ExecutionMethod> make(ExecutionType type, const Interval& interval);
+  static std::shared_ptr<ExecutionMethod> makeContinuos(const Interval& interval);
+};

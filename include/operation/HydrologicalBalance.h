@@ -1,0 +1,59 @@
+#pragma once
+
+#include <memory>
+
+#include "common/Date.h"
+#include "core/Element.h"
+
+// The arithmetic of water over one period, whose length depends on the periodicity: flows in
+// m³/s, volumes in hm³, heights of water in mm, areas in km².
+class HydrologicalBalance {
+ public:
+  virtual ~HydrologicalBalance() = default;
+
+  // The volume of a flow over the period of date: m³/s -> hm³.
+  virtual double hm3(const Date& date, double flow) const = 0;
+  // The flow of a volume over the period of date: hm³ -> m³/s.
+  virtual double m3s(const Date& date, double volume) const = 0;
+
+  // A height of water over an area: mm on km² -> hm³.
+  static double volume(double height, double area) { return height * area / 1000.0; }
+
+  // The volume that entered the node through its enabled incoming links over the period of date
+  // ("Vazão efluente" of the links), hm³.
+  double calcTotalUpstreamVolume(const std::shared_ptr<Element>& element, const Date& date,
+                                 unsigned int windowIndex) const;
+  // The volume that left the node through its enabled outgoing links ("Vazão afluente"), hm³.
+  double calcTotalDownStreamVolume(const std::shared_ptr<Element>& element, const Date& date,
+                                   unsigned int windowIndex) const;
+};
+
+class HydrologicalBalanceDaily : public HydrologicalBalance {
+ public:
+  double hm3(const Date& date, double flow) const override;
+  double m3s(const Date& date, double volume) const override;
+};
+
+// Months of 28 to 31 days.
+class HydrologicalBalanceMonthly : public HydrologicalBalance {
+ public:
+  double hm3(const Date& date, double flow) const override;
+  double m3s(const Date& date, double volume) const override;
+};
+
+// Years of 365 or 366 days.
+class HydrologicalBalanceYearly : public HydrologicalBalance {
+ public:
+  double hm3(const Date& date, double flow) const override;
+  double m3s(const Date& date, double volume) const override;
+};
+
+// Makes the balance of a periodicity. Throws std::invalid_argument
+// "HydrologicalBalanceFactory::make(): invalid periodicity" for a value outside the vocabulary.
+class HydrologicalBalanceFactory {
+ public:
+  static std::shared_ptr<HydrologicalBalance> make(Periodicity periodicity);
+  static std::shared_ptr<HydrologicalBalance> makeDaily();
+  static std::shared_ptr<HydrologicalBalance> makeMonthly();
+  static std::shared_ptr<HydrologicalBalance> makeYearly();
+};

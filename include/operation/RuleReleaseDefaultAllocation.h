@@ -1,0 +1,86 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "common/Date.h"
+#include "common/Interval.h"
+#include "core/Element.h"
+#include "core/SettingsManager.h"
+#include "operation/HydrologicalBalance.h"
+
+// How much of the water passing through a node goes into one of its outgoing links in a rule
+// simulation. The node's allocation matrix lists, for a set of total flows (its lines), the flow
+// each outgoing link takes; between lines the share is interpolated, and above the last line
+// the remainder is shared again in the proportions of a line. A link never takes more than its
+// limit ("Limite de trecho"); what it does not take stays upstream.
+class RuleReleaseDefaultAllocation {
+ public:
+  using AllocationMatrix = std::map<unsigned int, std::vector<double>>;
+
+  RuleReleaseDefaultAllocation(const Interval& interval, const Date& date,
+                               unsigned int windowIndex);
+  virtual ~RuleReleaseDefaultAllocation() = default;
+
+  // The flow into link from node at the date, m³/s.
+  virtual double getValue(const std::shared_ptr<Element>& node,
+                          const std::shared_ptr<Element>& link,
+                          const SettingsManager& settingsManager, bool zeroContribution,
+                          unsigned int isolatedScenarioId) = 0;
+
+  // The link's share of total (m³/s) by the matrix, capped by the link's limit at the date.
+  double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
+                  double total, const AllocationMatrix& matrix) const;
+
+  // The share of linkId when x (m³/s) passes through nodeId. Throws std::out_of_range when the
+  // matrix lacks either id.
+  static double GetInterpolationAllocationMatrix(const AllocationMatrix& matrix, double x,
+                                                 unsigned int linkId, unsigned int nodeId);
+
+ protected:
+  const HydrologicalBalance& getBalance() const { return *balance; }
+  const Interval& getInterval() const { return interval; }
+  const Date& getDate() const { return date; }
+  unsigned int getWindowIndex() const { return windowIndex; }
+
+  // The volume that entered node over the period, as a flow, m³/s.
+  double upstreamFlow(const std::shared_ptr<Element>& node) const;
+
+ private:
+  std::shared_ptr<HydrologicalBalance> balance;
+  Interval interval;
+  Date date;
+  unsigned int windowIndex;
+};
+
+// Shares what a junction receives from upstream.
+class RuleReleaseJunctionAllocation : public RuleReleaseDefaultAllocation {
+ public:
+  using RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation;
+  using RuleReleaseDefaultAllocation::getValue;
+  // Throws std::runtime_error for a union junction, which only isolated runs may share out.
+  double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
+                  const SettingsManager& settingsManager, bool zeroContribution,
+                  unsigned int isolatedScenarioId) override;
+};
+
+// Shares what a demand receives from upstream (its own natural flow is not part of it).
+class RuleReleaseDemandAllocation : public RuleReleaseDefaultAllocation {
+ public:
+  using RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation;
+  using RuleReleaseDefaultAllocation::getValue;
+  double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
+                  const SettingsManager& settingsManager, bool zeroContribution,
+                  unsigned int isolatedScenarioId) override;
+};
+
+// Shares what a basin receives from upstream (its own natural flow is not part of it).
+class RuleReleaseBasinAllocation : public RuleReleaseDefaultAllocation {
+ public:
+  using RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation;
+  using RuleReleaseDefaultAllocation::getValue;
+  double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
+                  const SettingsManager& settingsManager, bool zeroContribution,
+                  unsigned int isolatedScenarioId) override;
+};

@@ -1,0 +1,44 @@
+#include "common/Serie.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "common/PeriodWalker.h"
+
+Serie::Serie(const Interval& interval, Enum<SerieType> type, const Enum<Unit>& unit)
+    : interval(interval), type(std::move(type)), unit(unit) {}
+
+double Serie::getValue(const Date& date) const {
+  auto it = mapOfJulianToValues.find(Date::julian(date));
+  return it == mapOfJulianToValues.end() ? kEmptyValue : it->second;
+}
+
+double Serie::getValue(const Date& date, int& julian) const {
+  auto it = mapOfJulianToValues.find(Date::julian(date));
+  if (it == mapOfJulianToValues.end()) return kEmptyValue;
+  julian = static_cast<int>(it->first);
+  return it->second;
+}
+
+void Serie::setValue(const Date& date, double value) { setValue(Date::julian(date), value); }
+
+void Serie::setValue(unsigned int julian, double value) {
+  mapOfJulianToValues.insert_or_assign(julian, value);
+}
+
+void Serie::fill(double value) { fill(value, interval); }
+
+void Serie::fill(double value, const Interval& span) {
+  PeriodWalker::forEach(span, [&](const Date& date) { setValue(date, value); });
+}
+
+void Serie::clear() { mapOfJulianToValues.clear(); }
+
+bool Serie::isEmpty() const {
+  return std::all_of(mapOfJulianToValues.begin(), mapOfJulianToValues.end(),
+                     [](const auto& entry) { return std::fabs(entry.second - kEmptyValue) <= 1e-6; });
+}
+
+std::shared_ptr<Serie> Serie::copy() const { return std::make_shared<Serie>(*this); }
+
+void Serie::copyFrom(const std::shared_ptr<Serie>& other) { *this = *other; }

@@ -1,0 +1,35 @@
+#include "core/Reservoir.h"
+
+#include "common/regression/RegressionTechniqueFactory.h"
+#include "core/SeriesContainers.h"
+#include "core/Vocabulary.h"
+
+ReservoirInfo::ReservoirInfo()
+    : regressionTech(RegressionTechniqueFactory::make(RegressionType::cubicSpline)) {}
+
+Reservoir::Reservoir(const Point2D& position,
+                     const std::vector<InstitutionalID>& institutionalIDs)
+    : Node(Vocabulary::of(ElementType::reservoir), std::make_shared<ReservoirSeriesInput>(),
+           position),
+      institutionalIDs(institutionalIDs) {}
+
+void Reservoir::backupLinks() {
+  upstreamBackupLinks = getUpstreamLinks();
+  downstreamBackupLinks = getDownstreamLinks();
+}
+
+std::shared_ptr<Element> Reservoir::copy() const {
+  std::shared_ptr<Element> element = Node::copy();
+  auto reservoir = std::static_pointer_cast<Reservoir>(element);
+  reservoir->institutionalIDs = institutionalIDs;
+  ReservoirInfo& info = reservoir->reservoirInfo;
+  info.initVol = reservoirInfo.initVol;
+  info.minVol = reservoirInfo.minVol;
+  info.maxVol = reservoirInfo.maxVol;
+  info.cav = reservoirInfo.cav;
+  info.workingCav = reservoirInfo.workingCav;
+  info.regressionTech = RegressionTechniqueFactory::make(reservoirInfo.regressionTech->getType());
+  info.isolated = reservoirInfo.isolated;
+  info.maxRelease = reservoirInfo.maxRelease;
+  return element;
+}

@@ -1,0 +1,92 @@
+#include "core/ScenarioManager.h"
+
+#include <iterator>
+#include <stdexcept>
+
+ScenarioManager& ScenarioManager::getInstance() {
+  static ScenarioManager instance;
+  return instance;
+}
+
+const std::shared_ptr<Scenario>& ScenarioManager::mappingScenery(unsigned int index) const {
+  return sceneries.at(index);
+}
+
+std::shared_ptr<Scenario> ScenarioManager::mappingSceneryByDatabaseID(
+    unsigned int databaseId) const {
+  for (const auto& entry : sceneries) {
+    if (entry.second->getDatabaseId() == databaseId) return entry.second;
+  }
+  return nullptr;
+}
+
+std::shared_ptr<Scenario> ScenarioManager::getSceneryById(unsigned int id) const {
+  for (const auto& entry : sceneries) {
+    if (entry.second->getId() == id) return entry.second;
+  }
+  return nullptr;
+}
+
+void ScenarioManager::setCurrentScenario(unsigned int index) {
+  currentScenario = sceneries.at(index);
+}
+
+std::map<unsigned int, Interval> ScenarioManager::getIntervals() const {
+  std::map<unsigned int, Interval> intervals;
+  for (const auto& entry : sceneries) intervals.emplace(entry.first, entry.second->getInterval());
+  return intervals;
+}
+
+unsigned int ScenarioManager::getIndexByScenId(unsigned int id) const {
+  for (const auto& entry : sceneries) {
+    if (entry.second->getId() == id) return entry.first;
+  }
+  throw std::invalid_argument("ScenarioManager::getIndexByScenId: invalid operation");
+}
+
+unsigned int ScenarioManager::getIndexOfCurrentScen() const {
+  if (currentScenario) {
+    for (const auto& entry : sceneries) {
+      if (entry.second == currentScenario) return entry.first;
+    }
+  }
+  throw std::invalid_argument("ScenarioManager::getIndexOfCurrentScen: invalid operation");
+}
+
+void ScenarioManager::addScenery(unsigned int index, const std::shared_ptr<Scenario>& scenario) {
+  sceneries[index] = scenario;
+  numberOfSceneries = static_cast<unsigned int>(sceneries.size());
+  if (sceneries.size() == 1) currentScenario = scenario;
+}
+
+void ScenarioManager::deleteCurrentScenery() {
+  if (sceneries.empty()) return;
+  const unsigned int removed = getIndexOfCurrentScen();
+  std::map<unsigned int, std::shared_ptr<Scenario>> renumbered;
+  for (const auto& entry : sceneries) {
+    if (entry.first < removed) renumbered.emplace(entry.first, entry.second);
+    if (entry.first > removed) renumbered.emplace(entry.first - 1, entry.second);
+  }
+  sceneries = std::move(renumbered);
+  numberOfSceneries = static_cast<unsigned int>(sceneries.size());
+  if (sceneries.empty()) {
+    currentScenario = nullptr;
+  } else {
+    auto neighbour = sceneries.lower_bound(removed);
+    currentScenario = neighbour != sceneries.end() ? neighbour->second : sceneries.rbegin()->second;
+  }
+}
+
+void ScenarioManager::clear() {
+  sceneries.clear();
+  currentScenario = nullptr;
+  numberOfSceneries = 0;
+  countVirtualElementId = 0;
+}
+
+bool ScenarioManager::executeScenery(int index, const Progress& progress, const Progress&) {
+  if (index < 0 || static_cast<unsigned int>(index) >= sceneries.size()) {
+    throw std::invalid_argument("ScenarioManager::executeScenery: scenery's index is invalid");
+  }
+  return std::next(sceneries.begin(), index)->second->run(progress);
+}

@@ -1,0 +1,37 @@
+#include "operation/ExecutionContinuous.h"
+
+#include "common/Calendar.h"
+#include "core/KOVACoreProgressBar.h"
+#include "core/ResultFactory.h"
+#include "operation/OperationSystem.h"
+
+ExecutionContinuous::ExecutionContinuous() : ExecutionMethod(ExecutionType::continuous) {}
+
+void ExecutionContinuous::createResults(const Elements& elements, const Interval& interval,
+                                        const Enum<ScenarioType>& scenarioType) {
+  for (const auto& element : elements) {
+    if (!element->isEnabled()) continue;
+    element->setOutputSeries(ResultFactory::make(
+        {getExecutionType().getType(), element->getType(), scenarioType.getType()}, 1));
+    element->setIntervalSeries(interval);
+  }
+}
+
+bool ExecutionContinuous::run(const Interval& interval,
+                              const std::shared_ptr<OperationSystem>& operation,
+                              const Progress& progress) {
+  operation->setWindowIndex(0);
+  KOVACoreProgressBar progressBar(0, interval.period(), progress);
+  Date date = interval.getBegin();
+  while (date <= interval.getEnd()) {
+    operation->setDate(date);
+    operation->runModel();
+    if (!progressBar.update()) return false;
+    date += Calendar::incInterval(date, interval);
+  }
+  return true;
+}
+
+std::shared_ptr<ExecutionMethod> ExecutionContinuous::copySpecific() const {
+  return std::make_shared<ExecutionContinuous>();
+}

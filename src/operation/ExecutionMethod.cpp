@@ -1,0 +1,44 @@
+#include "operation/ExecutionMethod.h"
+
+#include <stdexcept>
+
+#include "core/Reservoir.h"
+#include "core/ReservoirRuleSettings.h"
+#include "core/Vocabulary.h"
+
+namespace {
+
+constexpr double kUnlimitedDemand = 99999.0;  // m³/s
+
+}  // namespace
+
+ExecutionMethod::ExecutionMethod(ExecutionType type) : executionType(Vocabulary::of(type)) {}
+
+std::shared_ptr<ExecutionMethod> ExecutionMethod::copy() const {
+  std::shared_ptr<ExecutionMethod> method = copySpecific();
+  method->windowSize = windowSize;
+  method->zeroContribution = zeroContribution;
+  method->yearsDate = yearsDate;
+  method->initialMonth = initialMonth;
+  return method;
+}
+
+void ExecutionMethod::configureDrainDemands(const Elements& drains, const Interval& interval) {
+  for (const auto& drain : drains) {
+    if (drain->isEnabled()) drain->getInputSerie(SerieType::demand)->fill(kUnlimitedDemand, interval);
+  }
+}
+
+void ExecutionMethod::configureZeroContribution(const SettingsManager& settingsManager,
+                                                const Elements& reservoirs) const {
+  for (const auto& reservoir : reservoirs) {
+    auto settings = std::dynamic_pointer_cast<ReservoirRuleSettings>(
+        settingsManager.getSettings(reservoir->getId()));
+    if (!settings) throw std::invalid_argument("Passed element is not valid for element setting");
+    if (settings->getRule()) settings->getRule()->setZeroContribution(zeroContribution);
+  }
+}
+
+void ExecutionMethod::backupReservoirsLinks(const Elements& reservoirs) {
+  for (const auto& element : reservoirs) std::static_pointer_cast<Reservoir>(element)->backupLinks();
+}

@@ -1,0 +1,61 @@
+#include "operation/OperationSystem.h"
+
+#include <map>
+
+#include "core/NetworkUtils.h"
+#include "operation/ResultsWriterFactory.h"
+
+OperationSystem::OperationSystem(const SettingsManager& settingsManager, const Elements& elements,
+                                 const Interval& interval, bool zeroContribution,
+                                 const Enum<ScenarioType>& scenarioType)
+    : settingsManager(settingsManager),
+      elements(elements),
+      interval(interval),
+      zeroContribution(zeroContribution),
+      scenarioType(scenarioType) {}
+
+std::vector<std::shared_ptr<Link>> OperationSystem::allocation(const std::shared_ptr<Node>& node) {
+  return node->getEnabledDownstreamLinks();
+}
+
+void OperationSystem::updateResults(const std::shared_ptr<Element>& element) {
+  ResultsWriterFactory::make({scenarioType.getType(), element->getType()})
+      ->write(date, windowIndex, element, interval, zeroContribution);
+}
+
+void OperationSystem::postProcessing(const Callback& callback) {
+  if (nodesInLevelOrder.empty()) nodesInLevelOrder = NetworkUtils::levelOrderLegacy(elements);
+  const long total = static_cast<long>(nodesInLevelOrder.size());
+  long position = 0;
+  for (const auto& element : nodesInLevelOrder) {
+    ++position;
+    if (element->isEnabled()) {
+      const auto node = std::static_pointer_cast<Node>(element);
+      const std::vector<std::shared_ptr<Link>> links = allocation(node);
+      for (const auto& link : links) allocReleaseValue(link, release(link));
+      updateResults(node);
+      const bool isReservoir = node->getType() == ElementType::reservoir;
+      for (const auto& link : links) {
+        if (isReservoir && link->getType() == ElementType::naturalLink) {
+          allocSpillValue(link, spill(link));
+        }
+        updateResults(link);
+      }
+    }
+    if (callback && !callback(position, total)) return;
+  }
+}
+
+void OperationSystem::allocReleaseValue(const std::shared_ptr<Link>& link, double flow) {
+  link->getOutputSerie(SerieType::inflow, windowIndex)->setValue(date, flow);
+}
+
+void OperationSystem::allocSpillValue(const std::shared_ptr<Link>& link, double flow) {
+  const std::shared_ptr<Serie>& inflow = link->getOutputSerie(SerieType::inflow, windowIndex);
+  inflow->setValue(date, inflow->getValue(date) + flow);
+}
+
+bool OperationSystem::hasLoop() {
+  idsOfElementsInLoop = NetworkUtils::findLoop(elements);
+  return !idsOfElementsInLoop.empty();
+}

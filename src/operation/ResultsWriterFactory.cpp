@@ -1,0 +1,54 @@
+#include "operation/ResultsWriterFactory.h"
+
+#include <functional>
+#include <map>
+#include <stdexcept>
+
+#include "core/ElementSets.h"
+#include "operation/BasinResultsWriter.h"
+#include "operation/JunctionResultsWriter.h"
+#include "operation/LinkResultsWriter.h"
+
+namespace {
+
+using Maker = std::function<std::shared_ptr<ResultsWriter>()>;
+
+void addRuleWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario) {
+  for (ElementType link : ElementSets::links()) {
+    makers[{scenario, link}] = ResultsWriterFactory::makeLinkResultsWriter;
+  }
+  makers[{scenario, ElementType::junction}] = ResultsWriterFactory::makeJunctionResultsWriter;
+  makers[{scenario, ElementType::basin}] = ResultsWriterFactory::makeBasinResultsWriter;
+}
+
+const std::map<KeySettings, Maker>& makers() {
+  static const std::map<KeySettings, Maker> table = [] {
+    std::map<KeySettings, Maker> result;
+    addRuleWriters(result, ScenarioType::ruleSimulator);
+    return result;
+  }();
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::make(const KeySettings& key) {
+  auto it = makers().find(key);
+  if (it == makers().end()) {
+    throw std::invalid_argument(
+        "ResultsWriterFactory::make(): invalid key (scenarioType, elementType)");
+  }
+  return it->second();
+}
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeLinkResultsWriter() {
+  return std::make_shared<LinkResultsWriter>();
+}
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeBasinResultsWriter() {
+  return std::make_shared<BasinResultsWriter>();
+}
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeJunctionResultsWriter() {
+  return std::make_shared<JunctionResultsWriter>();
+}

@@ -1,0 +1,49 @@
+#include "operation/RuleOperation.h"
+
+#include "core/ElementSets.h"
+#include "core/ElementsFilter.h"
+#include "core/NetworkUtils.h"
+#include "core/ReservoirRuleSettings.h"
+#include "operation/RuleReleaseAllocationFactory.h"
+
+double RuleOperation::release(const std::shared_ptr<Link>& link) {
+  const std::shared_ptr<Node> upstream = link->getUpstream();
+  const auto allocator = RuleReleaseAllocationFactory::make(upstream->getType(), getInterval(),
+                                                            getDate(), getWindowIndex());
+  return allocator->getValue(upstream, link, getSettingsManager(), getZeroContribution(), 0);
+}
+
+double RuleOperation::spill(const std::shared_ptr<Link>& link) {
+  return link->getUpstream()
+      ->getOutputSerie(SerieType::spilledFlow, getWindowIndex())
+      ->getValue(getDate());
+}
+
+void RuleOperation::postProcessing(const Callback& callback) {
+  writeRuleSeries();
+  OperationSystem::postProcessing(callback);
+}
+
+void RuleOperation::runModel() {
+  configureRuleReservoirs();
+  if (getHasBidirectionalLink() && hasLoop()) throw NetworkUtils::LoopException();
+  postProcessing(nullptr);
+}
+
+void RuleOperation::configureRuleReservoirs() {
+  for (const auto& reservoir : ElementsFilter::filterByType(getElements(), ElementSets::reservoir())) {
+    auto settings = std::static_pointer_cast<ReservoirRuleSettings>(
+        getSettingsManager().getSettings(reservoir->getId()));
+    if (!settings->getRule()) continue;
+    settings->getRule()->setInterval(getInterval());
+    settings->getRule()->setWindowIndex(getWindowIndex());
+  }
+}
+
+void RuleOperation::writeRuleSeries() {
+  for (const auto& demand : ElementsFilter::filterByType(getElements(), ElementSets::demands())) {
+    if (!demand->isEnabled()) continue;
+    const double target = demand->getInputSerie(SerieType::demand)->getValue(getDate());
+    demand->getOutputSerie(SerieType::targetDemand, getWindowIndex())->setValue(getDate(), target);
+  }
+}

@@ -1,0 +1,110 @@
+#include "operation/RuleReleaseDefaultAllocation.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "common/NumericalUtils.h"
+#include "core/Junction.h"
+#include "core/RuleSettings.h"
+
+namespace {
+
+constexpr double kEps = 1e-6;
+
+const RuleReleaseDefaultAllocation::AllocationMatrix& matrixOf(
+    const std::shared_ptr<Element>& node, const SettingsManager& settingsManager) {
+  return std::static_pointer_cast<RuleSettings>(settingsManager.getSettings(node->getId()))
+      ->getAllocation();
+}
+
+// The remainder x beyond the lines goes to the links in the proportions of one line: the first,
+// except where x is 1.0 and the first breakpoint is not positive, where it is the last.
+double shareOutsideLines(const RuleReleaseDefaultAllocation::AllocationMatrix& matrix,
+                         const std::vector<double>& nodeRow, const std::vector<double>& linkRow,
+                         double x, unsigned int nodeId) {
+  const double probe = nodeRow[0] > 0.0 ? 0.0 : 1.0;
+  const std::size_t line =
+      NumericalUtils::subtractDoubles(x, probe, kEps) == 0.0 ? nodeRow.size() - 1 : 0;
+  double sum = 0.0;
+  for (const auto& entry : matrix) {
+    if (entry.first != nodeId) sum += entry.second[line];
+  }
+  return linkRow[line] / sum * x;
+}
+
+}  // namespace
+
+RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation(const Interval& interval,
+                                                           const Date& date,
+                                                           unsigned int windowIndex)
+    : balance(HydrologicalBalanceFactory::make(interval.getPeriodicity().getType())),
+      interval(interval),
+      date(date),
+      windowIndex(windowIndex) {}
+
+double RuleReleaseDefaultAllocation::getValue(const std::shared_ptr<Element>& node,
+                                              const std::shared_ptr<Element>& link, double total,
+                                              const AllocationMatrix& matrix) const {
+  const double share =
+      GetInterpolationAllocationMatrix(matrix, total, link->getId(), node->getId());
+  const std::shared_ptr<Serie> limitSerie =
+      link->getInputSeries() ? link->getInputSerie(SerieType::linkLimit) : nullptr;
+  const double limit = limitSerie ? limitSerie->getValue(date) : 0.0;
+  return std::min(limit, share);
+}
+
+double RuleReleaseDefaultAllocation::GetInterpolationAllocationMatrix(
+    const AllocationMatrix& matrix, double x, unsigned int linkId, unsigned int nodeId) {
+  const std::vector<double>& nodeRow = matrix.at(nodeId);
+  const std::vector<double>& linkRow = matrix.at(linkId);
+  if (nodeRow.empty()) return 0.0;
+
+  double result = 0.0;
+  const double top = nodeRow.back();
+  const double aboveTop = NumericalUtils::subtractDoubles(x, top, kEps);
+  if (aboveTop > 0.0) {
+    result = linkRow.back();
+    x = aboveTop;
+  }
+  for (std::size_t i = nodeRow.size(); i-- > 0;) {
+    if (NumericalUtils::compareDoubles(x, nodeRow[i], kEps)) return result + linkRow[i];
+    if (NumericalUtils::subtractDoubles(x, nodeRow[i], kEps) > 0.0 &&
+        NumericalUtils::subtractDoubles(x, top, kEps) < 0.0) {
+      const double a = nodeRow[i + 1] - x;
+      const double b = x - nodeRow[i];
+      return result + (linkRow[i + 1] * b + linkRow[i] * a) / (b + a);
+    }
+  }
+  if (NumericalUtils::compareDoubles(x, 0.0, kEps)) return result;
+  return result + shareOutsideLines(matrix, nodeRow, linkRow, x, nodeId);
+}
+
+double RuleReleaseDefaultAllocation::upstreamFlow(const std::shared_ptr<Element>& node) const {
+  return balance->m3s(date, balance->calcTotalUpstreamVolume(node, date, windowIndex));
+}
+
+double RuleReleaseJunctionAllocation::getValue(const std::shared_ptr<Element>& node,
+                                               const std::shared_ptr<Element>& link,
+                                               const SettingsManager& settingsManager, bool,
+                                               unsigned int) {
+  if (std::static_pointer_cast<Junction>(node)->getIsUnion()) {
+    throw std::runtime_error(
+        "RuleReleaseJunctionAllocation::getValue(): a union junction is shared out only in "
+        "isolated runs");
+  }
+  return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
+}
+
+double RuleReleaseDemandAllocation::getValue(const std::shared_ptr<Element>& node,
+                                             const std::shared_ptr<Element>& link,
+                                             const SettingsManager& settingsManager, bool,
+                                             unsigned int) {
+  return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
+}
+
+double RuleReleaseBasinAllocation::getValue(const std::shared_ptr<Element>& node,
+                                            const std::shared_ptr<Element>& link,
+                                            const SettingsManager& settingsManager, bool,
+                                            unsigned int) {
+  return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
+}

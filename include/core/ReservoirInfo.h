@@ -13,6 +13,10 @@ struct ReservoirInfo {
 
   ReservoirInfo();
 
+  // Rebuilds workingCav from cav: every row but the first (of zero area and volume), keeping only
+  // the first of rows that repeat a value in column, so that column strictly increases.
+  void calculateCav(CAV column);
+
   double initVol = 0.0;  // hm³, volume at the start of a run and of each window
   double minVol = 0.0;   // hm³, nothing is released below it
   double maxVol = 0.0;   // hm³, capacity; above it water spills

@@ -35,6 +35,8 @@ class ExecutionMethod {
   // Each enabled drain demands 99999.0 m³/s on every period of interval, so it takes whatever
   // reaches it.
   static void configureDrainDemands(const Elements& drains, const Interval& interval);
+  // Rebuilds each reservoir's working table, unique in volume.
+  static void configureReservoirsCav(const Elements& reservoirs);
   // Hands zeroContribution to each reservoir's rule. Throws std::invalid_argument
   // "Passed element is not valid for element setting" for a reservoir without rule settings.
   void configureZeroContribution(const SettingsManager& settingsManager,

@@ -12,5 +12,7 @@ class ResultsWriterFactory {
   static std::shared_ptr<ResultsWriter> make(const KeySettings& key);
   static std::shared_ptr<ResultsWriter> makeLinkResultsWriter();
   static std::shared_ptr<ResultsWriter> makeBasinResultsWriter();
+  static std::shared_ptr<ResultsWriter> makeDemandResultsWriter();
+  static std::shared_ptr<ResultsWriter> makeReservoirRuleResultsWriter();
   static std::shared_ptr<ResultsWriter> makeJunctionResultsWriter();
 };

@@ -12,6 +12,8 @@ class RuleReleaseAllocationFactory {
                                                             const Interval& interval,
                                                             const Date& date,
                                                             unsigned int windowIndex);
+  static std::shared_ptr<RuleReleaseDefaultAllocation> makeReservoirAllocation(
+      const Interval& interval, const Date& date, unsigned int windowIndex);
   static std::shared_ptr<RuleReleaseDefaultAllocation> makeJunctionAllocation(
       const Interval& interval, const Date& date, unsigned int windowIndex);
   static std::shared_ptr<RuleReleaseDefaultAllocation> makeBasinAllocation(

@@ -7,6 +7,8 @@
 #include "common/Date.h"
 #include "common/Interval.h"
 #include "core/Element.h"
+#include "core/Reservoir.h"
+#include "core/ReservoirRuleSettings.h"
 #include "core/SettingsManager.h"
 #include "operation/HydrologicalBalance.h"
 
@@ -52,6 +54,23 @@ class RuleReleaseDefaultAllocation {
   Interval interval;
   Date date;
   unsigned int windowIndex;
+};
+
+// Releases what the reservoir's rule asks, cut to the water above the minimum volume and to the
+// maximum release, and shares it by the matrix. A bidirectional link running inverted out of the
+// reservoir takes its share by its own row of values.
+class RuleReleaseReservoirAllocation : public RuleReleaseDefaultAllocation {
+ public:
+  using RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation;
+  using RuleReleaseDefaultAllocation::getValue;
+  double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
+                  const SettingsManager& settingsManager, bool zeroContribution,
+                  unsigned int isolatedScenarioId) override;
+
+ private:
+  // The flow the rule asks for, within what the lake holds above its minimum and maxRelease, m³/s.
+  double wantedRelease(const std::shared_ptr<Reservoir>& reservoir,
+                       const ReservoirRuleSettings& settings, bool zeroContribution) const;
 };
 
 // Shares what a junction receives from upstream.

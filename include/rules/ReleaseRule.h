@@ -19,7 +19,8 @@ class ReleaseRule {
   // The flow to release at date, m³/s.
   virtual double getRelease(const Date& date) const = 0;
   // Resolves references to other elements once the whole scenario exists.
-  virtual void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario) = 0;
+  // Nothing to resolve by default.
+  virtual void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario);
   virtual std::shared_ptr<ReleaseRule> copy() const = 0;
 
   const Interval& getInterval() const { return interval; }

@@ -88,7 +88,7 @@ Date& Date::operator--() {
 }
 
 unsigned int Date::julian(const Date& date) {
-  int y = static_cast<int>(date.year);
+  long long y = date.year;
   int m = date.month;
   if (m < 3) {
     y -= 1;

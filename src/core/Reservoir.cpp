@@ -1,11 +1,26 @@
 #include "core/Reservoir.h"
 
+#include <algorithm>
+
+#include "common/NumericalUtils.h"
 #include "common/regression/RegressionTechniqueFactory.h"
 #include "core/SeriesContainers.h"
 #include "core/Vocabulary.h"
 
 ReservoirInfo::ReservoirInfo()
     : regressionTech(RegressionTechniqueFactory::make(RegressionType::cubicSpline)) {}
+
+void ReservoirInfo::calculateCav(CAV column) {
+  workingCav.clear();
+  workingCav.reserve(cav.size());
+  for (std::size_t row = 1; row < cav.size(); ++row) {
+    const double value = cav[row][column];
+    const bool repeated = std::any_of(workingCav.begin(), workingCav.end(), [&](const auto& kept) {
+      return NumericalUtils::compareDoubles(kept[column], value, 1e-6);
+    });
+    if (!repeated) workingCav.push_back(cav[row]);
+  }
+}
 
 Reservoir::Reservoir(const Point2D& position,
                      const std::vector<InstitutionalID>& institutionalIDs)

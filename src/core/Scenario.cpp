@@ -93,6 +93,7 @@ void Scenario::preRun() {
   ExecutionMethod::configureDrainDemands(
       ElementsFilter::filterByType(elements, {ElementType::drain}), interval);
   const Elements reservoirs = ElementsFilter::filterByType(elements, ElementSets::reservoir());
+  ExecutionMethod::configureReservoirsCav(reservoirs);
   executionMethod->configureZeroContribution(settingsManager, reservoirs);
   ExecutionMethod::backupReservoirsLinks(reservoirs);
 }

@@ -29,6 +29,13 @@ void ExecutionMethod::configureDrainDemands(const Elements& drains, const Interv
   }
 }
 
+void ExecutionMethod::configureReservoirsCav(const Elements& reservoirs) {
+  for (const auto& element : reservoirs) {
+    std::static_pointer_cast<Reservoir>(element)->getReservoirInfo().calculateCav(
+        ReservoirInfo::volume);
+  }
+}
+
 void ExecutionMethod::configureZeroContribution(const SettingsManager& settingsManager,
                                                 const Elements& reservoirs) const {
   for (const auto& reservoir : reservoirs) {

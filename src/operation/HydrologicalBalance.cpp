@@ -6,6 +6,8 @@
 #include <stdexcept>
 
 #include "common/Calendar.h"
+#include "common/NumericalUtils.h"
+#include "core/CavManager.h"
 #include "core/Link.h"
 #include "core/Node.h"
 #include "operation/HydrologicalConversion.h"
@@ -26,6 +28,46 @@ double sumVolume(const HydrologicalBalance& balance,
 }
 
 }  // namespace
+
+Cav HydrologicalBalance::makeCAV(const std::shared_ptr<Reservoir>& reservoir,
+                                 const std::vector<int>& columns) {
+  const ReservoirInfo& info = reservoir->getReservoirInfo();
+  std::vector<std::vector<double>> matrix;
+  matrix.reserve(info.workingCav.size());
+  for (const auto& row : info.workingCav) {
+    std::vector<double> picked;
+    for (int column : columns) picked.push_back(row.at(static_cast<std::size_t>(column)));
+    matrix.push_back(std::move(picked));
+  }
+  return Cav(info.regressionTech, std::move(matrix));
+}
+
+double HydrologicalBalance::atVolume(const Cav& cav, double volume) {
+  if (NumericalUtils::compareDoubles(volume, 0.0, 0.0001)) return 0.0;
+  return CavManager::calculateInterpolation(cav, volume);
+}
+
+double HydrologicalBalance::area(const Cav& cav, double volume) { return atVolume(cav, volume); }
+
+double HydrologicalBalance::level(const Cav& cav, double volume) { return atVolume(cav, volume); }
+
+double HydrologicalBalance::balance(const std::shared_ptr<Reservoir>& reservoir, const Date& date,
+                                    double volume, bool zeroContribution, double upstreamVolume,
+                                    double downstreamVolume) const {
+  const double surface = area(makeCAV(reservoir, {ReservoirInfo::volume, ReservoirInfo::area}), volume);
+  double precipitation = 0.0;
+  double naturalFlow = 0.0;
+  if (!zeroContribution) {
+    precipitation = reservoir->getInputSerie(SerieType::precipitation)->getValue(date) * surface / 1000.0;
+    naturalFlow = reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->getValue(date);
+  }
+  const double inflow = upstreamVolume + (hm3(date, naturalFlow) + precipitation);
+  const double evaporation =
+      reservoir->getInputSerie(SerieType::evaporation)->getValue(date) * surface / 1000.0;
+  const double stock = inflow + volume;
+  const double loss = evaporation + downstreamVolume;
+  return NumericalUtils::subtractDoubles(stock, loss, 1e-6);
+}
 
 double HydrologicalBalance::calcTotalUpstreamVolume(const std::shared_ptr<Element>& element,
                                                     const Date& date,

@@ -6,8 +6,10 @@
 
 #include "core/ElementSets.h"
 #include "operation/BasinResultsWriter.h"
+#include "operation/DemandResultsWriter.h"
 #include "operation/JunctionResultsWriter.h"
 #include "operation/LinkResultsWriter.h"
+#include "operation/ReservoirResultsWriter.h"
 
 namespace {
 
@@ -17,6 +19,10 @@ void addRuleWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario)
   for (ElementType link : ElementSets::links()) {
     makers[{scenario, link}] = ResultsWriterFactory::makeLinkResultsWriter;
   }
+  for (ElementType demand : ElementSets::demands()) {
+    makers[{scenario, demand}] = ResultsWriterFactory::makeDemandResultsWriter;
+  }
+  makers[{scenario, ElementType::reservoir}] = ResultsWriterFactory::makeReservoirRuleResultsWriter;
   makers[{scenario, ElementType::junction}] = ResultsWriterFactory::makeJunctionResultsWriter;
   makers[{scenario, ElementType::basin}] = ResultsWriterFactory::makeBasinResultsWriter;
 }
@@ -47,6 +53,14 @@ std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeLinkResultsWriter() {
 
 std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeBasinResultsWriter() {
   return std::make_shared<BasinResultsWriter>();
+}
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeDemandResultsWriter() {
+  return std::make_shared<DemandResultsWriter>();
+}
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeReservoirRuleResultsWriter() {
+  return std::make_shared<ReservoirRuleResultsWriter>();
 }
 
 std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeJunctionResultsWriter() {

@@ -14,6 +14,7 @@ using Maker = std::function<std::shared_ptr<RuleReleaseDefaultAllocation>(
 const std::map<ElementType, Maker>& makers() {
   static const std::map<ElementType, Maker> table = [] {
     std::map<ElementType, Maker> result = {
+        {ElementType::reservoir, RuleReleaseAllocationFactory::makeReservoirAllocation},
         {ElementType::junction, RuleReleaseAllocationFactory::makeJunctionAllocation},
         {ElementType::basin, RuleReleaseAllocationFactory::makeBasinAllocation},
     };
@@ -34,6 +35,11 @@ std::shared_ptr<RuleReleaseDefaultAllocation> RuleReleaseAllocationFactory::make
     throw std::invalid_argument("RuleRelaseAllocationFactory::make(): invalid elementType");
   }
   return it->second(interval, date, windowIndex);
+}
+
+std::shared_ptr<RuleReleaseDefaultAllocation> RuleReleaseAllocationFactory::makeReservoirAllocation(
+    const Interval& interval, const Date& date, unsigned int windowIndex) {
+  return std::make_shared<RuleReleaseReservoirAllocation>(interval, date, windowIndex);
 }
 
 std::shared_ptr<RuleReleaseDefaultAllocation> RuleReleaseAllocationFactory::makeJunctionAllocation(

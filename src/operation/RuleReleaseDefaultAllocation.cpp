@@ -5,7 +5,10 @@
 
 #include "common/NumericalUtils.h"
 #include "core/Junction.h"
+#include "core/Link.h"
+#include "core/LinkRuleSettings.h"
 #include "core/RuleSettings.h"
+#include "operation/ReservoirOperationUtils.h"
 
 namespace {
 
@@ -81,6 +84,49 @@ double RuleReleaseDefaultAllocation::GetInterpolationAllocationMatrix(
 
 double RuleReleaseDefaultAllocation::upstreamFlow(const std::shared_ptr<Element>& node) const {
   return balance->m3s(date, balance->calcTotalUpstreamVolume(node, date, windowIndex));
+}
+
+double RuleReleaseReservoirAllocation::getValue(const std::shared_ptr<Element>& node,
+                                                const std::shared_ptr<Element>& link,
+                                                const SettingsManager& settingsManager,
+                                                bool zeroContribution, unsigned int) {
+  const auto reservoir = std::static_pointer_cast<Reservoir>(node);
+  const auto settings =
+      std::static_pointer_cast<ReservoirRuleSettings>(settingsManager.getSettings(node->getId()));
+  const double wanted = wantedRelease(reservoir, *settings, zeroContribution);
+  const auto out = std::static_pointer_cast<Link>(link);
+  if (out->getIsUnion()) return 0.0;
+  const auto& backups = reservoir->getUpstreamBackupLinks();
+  const bool invertedOut =
+      out->getIsBidirectional() &&
+      std::any_of(backups.begin(), backups.end(),
+                  [&](const std::shared_ptr<Link>& l) { return l->getId() == out->getId(); });
+  if (invertedOut) {
+    const auto linkSettings =
+        std::static_pointer_cast<LinkRuleSettings>(settingsManager.getSettings(link->getId()));
+    const AllocationMatrix own = {{node->getId(), settings->getAllocation().at(node->getId())},
+                                  {link->getId(), linkSettings->getValues()}};
+    return getValue(node, link, wanted, own);
+  }
+  return getValue(node, link, wanted, settings->getAllocation());
+}
+
+double RuleReleaseReservoirAllocation::wantedRelease(const std::shared_ptr<Reservoir>& reservoir,
+                                                     const ReservoirRuleSettings& settings,
+                                                     bool zeroContribution) const {
+  const ReservoirInfo& info = reservoir->getReservoirInfo();
+  const HydrologicalBalance& hb = getBalance();
+  const double volume = ReservoirOperationUtils::currentReservoirVolume(
+      reservoir, getInterval(), getDate(), getWindowIndex());
+  const double upstream = hb.calcTotalUpstreamVolume(reservoir, getDate(), getWindowIndex());
+  const double afterInflows = hb.balance(reservoir, getDate(), volume, zeroContribution, upstream, 0.0);
+  double available = NumericalUtils::subtractDoubles(afterInflows, info.minVol, kEps);
+  if (available < 0.0) available = 0.0;
+  double wanted = settings.getRule() ? settings.getRule()->getRelease(getDate()) : 0.0;
+  if (NumericalUtils::subtractDoubles(available, hb.hm3(getDate(), wanted), kEps) < 0.0) {
+    wanted = hb.m3s(getDate(), available);
+  }
+  return std::min(wanted, info.maxRelease);
 }
 
 double RuleReleaseJunctionAllocation::getValue(const std::shared_ptr<Element>& node,

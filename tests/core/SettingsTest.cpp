@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/LinkRuleSettings.h"
+#include "rules/ConstReleaseRule.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/SettingsFactory.h"
 #include "core/SettingsManager.h"
@@ -8,21 +9,6 @@
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
 
-namespace {
-
-class FixedRule : public ReleaseRule {
- public:
-  explicit FixedRule(double flow) : flow(flow) {}
-  Enum<ReleaseRuleType> getType() const override { return Vocabulary::of(ReleaseRuleType::constant); }
-  double getRelease(const Date&) const override { return flow; }
-  void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>&) override {}
-  std::shared_ptr<ReleaseRule> copy() const override { return std::make_shared<FixedRule>(flow); }
-
- private:
-  double flow;
-};
-
-}  // namespace
 
 TEST(SettingsManager, StoresByIdAndCopiesDeeply) {
   SettingsManager manager;
@@ -30,7 +16,9 @@ TEST(SettingsManager, StoresByIdAndCopiesDeeply) {
   auto settings = std::dynamic_pointer_cast<ReservoirRuleSettings>(manager.getSettings(4));
   ASSERT_NE(settings, nullptr);
   EXPECT_EQ(settings->getRule(), nullptr);
-  settings->setRule(std::make_shared<FixedRule>(5.0));
+  auto rule = std::make_shared<ConstReleaseRule>();
+  rule->setRelease(5.0);
+  settings->setRule(rule);
 
   SettingsManager copy = manager;
   auto copied = std::static_pointer_cast<ReservoirRuleSettings>(copy.getSettings(4));

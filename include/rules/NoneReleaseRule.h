@@ -1,0 +1,15 @@
+#pragma once
+
+#include "rules/ReleaseRule.h"
+
+// A reservoir that releases nothing by rule: only its spill leaves.
+class NoneReleaseRule : public ReleaseRule {
+ public:
+  Enum<ReleaseRuleType> getType() const override;
+  // Always 0.0 m³/s.
+  double getRelease(const Date& date) const override;
+  std::shared_ptr<ReleaseRule> copy() const override;
+
+ private:
+  double release = 0.0;
+};

@@ -1,0 +1,11 @@
+#include "core/CavManager.h"
+
+#include "common/Point2D.h"
+
+double CavManager::calculateInterpolation(const Cav& cav, double x) {
+  std::vector<Point2D> points;
+  points.reserve(cav.getMatrix().size());
+  for (const auto& row : cav.getMatrix()) points.push_back({row[0], row[1]});
+  cav.getRegressionTechnique()->calculate(points);
+  return cav.getRegressionTechnique()->fit(x);
+}

@@ -1,0 +1,22 @@
+#include "rules/ConstReleaseRule.h"
+
+#include <stdexcept>
+
+#include "core/Vocabulary.h"
+
+Enum<ReleaseRuleType> ConstReleaseRule::getType() const {
+  return Vocabulary::of(ReleaseRuleType::constant);
+}
+
+double ConstReleaseRule::getRelease(const Date&) const { return release; }
+
+std::shared_ptr<ReleaseRule> ConstReleaseRule::copy() const {
+  return std::make_shared<ConstReleaseRule>(*this);
+}
+
+void ConstReleaseRule::setRelease(double value) {
+  if (value < 0.0) {
+    throw std::invalid_argument("ConstReleaseRule::setRelease(): the release is a negative value");
+  }
+  release = value;
+}

@@ -1,74 +1,177 @@
-// Builds a small river network in code, runs it month by month for a year through the scenario
-// manager, and prints the flows of its elements as a table.
+// Simulates the middle São Francisco by operating rules over 1931-2019, month by month: Três
+// Marias releases a constant flow into the river down to Sobradinho, which releases the standard
+// minimum to the lower river and supplies the firm withdrawal of the transfer canal. Prints, for
+// each year, the storage at the end of December, Sobradinho's spill and the canal's supply.
+//
+// Usage: kova-example [data folder]   (defaults to the example data of the source tree)
 #include <cstdio>
+#include <fstream>
+#include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "common/PeriodWalker.h"
+#include "common/StringUtils.h"
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
+#include "core/Reservoir.h"
+#include "core/ReservoirRuleSettings.h"
 #include "core/RuleScenario.h"
-#include "core/RuleSettings.h"
 #include "core/ScenarioManager.h"
 #include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
+#include "rules/ConstReleaseRule.h"
 
 namespace {
 
-std::shared_ptr<Node> addNode(Scenario& scenario, ElementType type, const std::string& name) {
-  auto node = std::static_pointer_cast<Node>(ElementFactory::make(type));
-  scenario.addElement(node, false);
-  node->setName(name);
-  return node;
+using Table = std::vector<std::vector<std::string>>;
+
+// Rows of a comma-separated file without its header.
+Table readCsv(const std::string& path) {
+  std::ifstream file(path);
+  if (!file) throw std::runtime_error("cannot open " + path);
+  Table rows;
+  std::string line;
+  std::getline(file, line);
+  while (std::getline(file, line)) {
+    if (!StringUtils::trim(line).empty()) rows.push_back(StringUtils::split(line, ','));
+  }
+  return rows;
 }
 
+std::size_t column(const std::string& path, const std::string& name) {
+  std::ifstream file(path);
+  std::string header;
+  std::getline(file, header);
+  const auto names = StringUtils::split(StringUtils::trim(header), ',');
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (names[i] == name) return i;
+  }
+  throw std::runtime_error("no column " + name + " in " + path);
+}
+
+struct Site {
+  std::string inflowColumn, evaporationColumn, cavFile;
+  double minVol, maxVol, initVol, release;  // hm³, hm³, hm³, m³/s
+};
+
+std::shared_ptr<Reservoir> addReservoir(Scenario& scenario, const std::string& folder,
+                                        const std::string& name, const Site& site) {
+  auto reservoir = std::static_pointer_cast<Reservoir>(ElementFactory::make(ElementType::reservoir));
+  scenario.addElement(reservoir, false);
+  reservoir->setName(name);
+  ReservoirInfo& info = reservoir->getReservoirInfo();
+  // The tables start at the minimum volume; the empty lake is the first row a table needs.
+  const Table cav = readCsv(folder + "/" + site.cavFile);
+  info.cav.push_back({std::stod(cav[0][0]), 0.0, 0.0});
+  for (const auto& row : cav) info.cav.push_back({std::stod(row[0]), std::stod(row[1]), std::stod(row[2])});
+  info.minVol = site.minVol;
+  info.maxVol = site.maxVol;
+  info.initVol = site.initVol;
+
+  const std::string inflowFile = folder + "/sf_natural_inflow_monthly_m3s.csv";
+  const std::size_t inflow = column(inflowFile, site.inflowColumn);
+  for (const auto& row : readCsv(inflowFile)) {
+    const Date month = Date::fromString(row[0] + "-01", "%Y-%m-%d");
+    reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->setValue(month, std::stod(row[inflow]));
+  }
+  const std::string evaporationFile = folder + "/sf_net_evaporation_monthly_mm.csv";
+  std::map<unsigned int, double> netEvaporation;
+  const std::size_t evaporation = column(evaporationFile, site.evaporationColumn);
+  for (const auto& row : readCsv(evaporationFile)) {
+    netEvaporation[std::stoul(row[0])] = std::stod(row[evaporation]);
+  }
+  PeriodWalker::forEach(scenario.getInterval(), [&](const Date& date) {
+    reservoir->getInputSerie(SerieType::evaporation)->setValue(date, netEvaporation.at(date.getMonth()));
+  });
+  reservoir->getInputSerie(SerieType::precipitation)->fill(0.0);
+
+  auto rule = std::make_shared<ConstReleaseRule>();
+  rule->setRelease(site.release);
+  Scenario::getSettings<ReservoirRuleSettings>(reservoir, scenario.getSettingsManager())->setRule(rule);
+  return reservoir;
+}
+
+template <typename LinkType>
 std::shared_ptr<Link> addLink(Scenario& scenario, const std::shared_ptr<Node>& up,
-                              const std::shared_ptr<Node>& down, double lossPercentage,
-                              double limit) {
-  auto link = LinkFactory<NaturalLink>::make(up, down, up->getName() + " -> " + down->getName(),
-                                             Vocabulary::of(LinkAddonType::none));
+                              const std::shared_ptr<Node>& down) {
+  auto link = LinkFactory<LinkType>::make(up, down, up->getName() + " - " + down->getName(),
+                                          Vocabulary::of(LinkAddonType::none));
   scenario.addElement(link, false);
-  link->getInputSerie(SerieType::transitLossPercentage)->fill(lossPercentage);
-  link->getInputSerie(SerieType::linkLimit)->fill(limit);
+  link->getInputSerie(SerieType::transitLossPercentage)->fill(0.0);
+  link->getInputSerie(SerieType::linkLimit)->fill(99999.0);
   return link;
+}
+
+// The node's release goes out by the links in fixed flows up to the given total, and in the
+// same proportions beyond it (m³/s).
+void share(Scenario& scenario, const std::shared_ptr<Node>& node,
+           const std::vector<std::pair<std::shared_ptr<Link>, double>>& flows) {
+  std::vector<std::vector<double>> matrix = {{double(node->getId())}, {0.0}, {0.0}};
+  for (const auto& [link, flow] : flows) {
+    matrix[0].push_back(link->getId());
+    matrix[1].push_back(0.0);
+    matrix[2].push_back(flow);
+    matrix[2][0] += flow;
+  }
+  std::static_pointer_cast<RuleSettings>(scenario.getSettingsManager().getSettings(node->getId()))
+      ->setAllocationByMatrixOfDouble(matrix);
 }
 
 }  // namespace
 
-int main() {
-  const Interval year(Date(2019, 1, 1), Date(2019, 12, 1), Vocabulary::of(Periodicity::monthly));
-  auto scenario = std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 0, year,
-                                                 "Exemplo");
-  auto upper = addNode(*scenario, ElementType::junction, "Alto");
-  auto middle = addNode(*scenario, ElementType::junction, "Medio");
-  auto canal = addNode(*scenario, ElementType::junction, "Canal");
-  auto mouth = addNode(*scenario, ElementType::junction, "Foz");
-  auto reach = addLink(*scenario, upper, middle, 5.0, 1000.0);
-  auto toCanal = addLink(*scenario, middle, canal, 0.0, 30.0);
-  auto toMouth = addLink(*scenario, middle, mouth, 2.0, 1000.0);
+int main(int argc, char** argv) {
+  const std::string folder = argc > 1 ? argv[1] : KOVA_EXAMPLE_DATA;
+  try {
+    const Interval period(Date(1931, 1, 1), Date(2019, 12, 1), Vocabulary::of(Periodicity::monthly));
+    auto scenario =
+        std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 0, period, "Exemplo");
+    auto tresMarias = addReservoir(*scenario, folder, "Três Marias",
+                                   {"tres_marias_156", "tres_marias", "cav_tres_marias.csv", 4250.0,
+                                    19528.0, 15000.0, 500.0});
+    auto sobradinho = addReservoir(*scenario, folder, "Sobradinho",
+                                   {"sobradinho_incremental_168", "sobradinho", "cav_sobradinho.csv",
+                                    5447.0, 34116.0, 25000.0, 1326.4});
+    auto canal = std::static_pointer_cast<Node>(ElementFactory::make(ElementType::humanDemand));
+    scenario->addElement(canal, false);
+    canal->setName("Transposição");
+    canal->getInputSerie(SerieType::demand)->fill(26.4, period);
+    auto mouth = std::static_pointer_cast<Node>(ElementFactory::make(ElementType::drain));
+    scenario->addElement(mouth, false);
+    mouth->setName("Foz");
 
-  // The middle junction sends 30 % of what it receives to the canal and the rest to the mouth.
-  auto allocation = std::static_pointer_cast<RuleSettings>(
-      scenario->getSettingsManager().getSettings(middle->getId()));
-  allocation->setAllocationByMatrixOfDouble(
-      {{double(middle->getId()), double(toCanal->getId()), double(toMouth->getId())},
-       {0, 0, 0},
-       {100, 30, 70}});
+    auto river = addLink<NaturalLink>(*scenario, tresMarias, sobradinho);
+    auto lowerRiver = addLink<NaturalLink>(*scenario, sobradinho, mouth);
+    auto intake = addLink<ArtificialLink>(*scenario, sobradinho, canal);
+    share(*scenario, tresMarias, {{river, 500.0}});
+    share(*scenario, sobradinho, {{lowerRiver, 1300.0}, {intake, 26.4}});
 
-  ScenarioManager& manager = ScenarioManager::getInstance();
-  manager.addScenery(0, scenario);
-  manager.executeScenery(0, nullptr, nullptr);
-  std::printf("%s\n\n", scenario->getSceneryStatus().getName().c_str());
+    ScenarioManager& manager = ScenarioManager::getInstance();
+    manager.addScenery(0, scenario);
+    manager.executeScenery(0, nullptr, nullptr);
+    std::printf("%s\n\n", scenario->getSceneryStatus().getName().c_str());
+    if (scenario->getSceneryStatus().getType() != SceneryStatus::success) return 1;
 
-  std::printf("%-8s", "mês");
-  for (const auto& link : {reach, toCanal, toMouth}) std::printf(" %20s", link->getName().c_str());
-  std::printf("\n");
-  PeriodWalker::forEach(year, [&](const Date& date) {
-    std::printf("%-8s", date.toString("%m/%Y").c_str());
-    for (const auto& link : {reach, toCanal, toMouth}) {
-      std::printf(" %20.3f", link->getOutputSerie(SerieType::outflow, 0)->getValue(date));
+    std::printf("%-6s %18s %18s %20s %18s\n", "ano", "Três Marias (hm³)", "Sobradinho (hm³)",
+                "vertido médio (m³/s)", "transposição (%)");
+    for (unsigned int year = 1931; year <= 2019; ++year) {
+      double spill = 0.0, attended = 0.0;
+      for (unsigned int month = 1; month <= 12; ++month) {
+        const Date date(year, month, 1);
+        spill += sobradinho->getOutputSerie(SerieType::spilledFlow, 0)->getValue(date) / 12.0;
+        attended += canal->getOutputSerie(SerieType::attendedDemandPercentage, 0)->getValue(date) / 12.0;
+      }
+      const Date december(year, 12, 1);
+      std::printf("%-6u %18.1f %18.1f %20.1f %18.1f\n", year,
+                  tresMarias->getOutputSerie(SerieType::finalVolume, 0)->getValue(december),
+                  sobradinho->getOutputSerie(SerieType::finalVolume, 0)->getValue(december), spill,
+                  attended);
     }
-    std::printf("\n");
-  });
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "kova-example: %s\n", error.what());
+    return 2;
+  }
   return 0;
 }

@@ -94,12 +94,8 @@ class RuleReleaseDemandAllocation : public RuleReleaseDefaultAllocation {
                   unsigned int isolatedScenarioId) override;
 };
 
-// Shares what a basin receives from upstream (its own natural flow is not part of it).
-class RuleReleaseBasinAllocation : public RuleReleaseDefaultAllocation {
+// Shares what a basin receives from upstream, as a demand does.
+class RuleReleaseBasinAllocation : public RuleReleaseDemandAllocation {
  public:
-  using RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation;
-  using RuleReleaseDefaultAllocation::getValue;
-  double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
-                  const SettingsManager& settingsManager, bool zeroContribution,
-                  unsigned int isolatedScenarioId) override;
+  using RuleReleaseDemandAllocation::RuleReleaseDemandAllocation;
 };

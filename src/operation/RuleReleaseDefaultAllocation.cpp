@@ -147,10 +147,3 @@ double RuleReleaseDemandAllocation::getValue(const std::shared_ptr<Element>& nod
                                              unsigned int) {
   return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
 }
-
-double RuleReleaseBasinAllocation::getValue(const std::shared_ptr<Element>& node,
-                                            const std::shared_ptr<Element>& link,
-                                            const SettingsManager& settingsManager, bool,
-                                            unsigned int) {
-  return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
-}

@@ -2,10 +2,12 @@
 
 #include <exception>
 #include <map>
+#include <set>
 #include <memory>
 #include <vector>
 
 #include "common/Date.h"
+#include "common/Point2D.h"
 #include "core/Element.h"
 #include "core/Link.h"
 #include "core/Node.h"
@@ -59,6 +61,24 @@ class NetworkUtils {
   // The enabled link from node to the node with downstreamId, or null.
   static std::shared_ptr<Link> getLinkDown(const std::shared_ptr<Node>& node,
                                            unsigned int downstreamId);
+
+  // The nodes of the given types reached going down from node (node itself excluded), in the order
+  // a depth-first walk meets them, each once. With onlyEnabled the walk follows enabled links to
+  // enabled nodes only.
+  static std::vector<std::shared_ptr<Node>> getAllDownstreamNodes(
+      const std::shared_ptr<Node>& node, const std::set<ElementType>& types, bool onlyEnabled);
+  // Throws RepeatedLinkException when one of links already joins the two nodes, either way.
+  static void checkDownAndUpInLinks(const std::shared_ptr<Node>& upstream,
+                                    const std::shared_ptr<Node>& downstream,
+                                    const std::vector<std::shared_ptr<Link>>& links);
+  // Throws InvalidBidirectionalLinkException when a bidirectional link already joins the two
+  // nodes: such a pair admits no second link.
+  static void checkInvalidBidirectionalLink(const std::shared_ptr<Node>& first,
+                                            const std::shared_ptr<Node>& second);
+  // A position beside node for a new element, in the map's units (degrees).
+  static Point2D getPositionNear(const std::shared_ptr<Node>& node);
+  // Seeds the system's random numbers from the clock.
+  static void initializeSeed();
 
   // Sum of "Vazão efluente" of the enabled upstream links at date, m³/s; zeros are skipped.
   static double upStreamSumFlow(const std::shared_ptr<Node>& node, const Date& date,

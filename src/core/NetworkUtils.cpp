@@ -1,11 +1,13 @@
 #include "core/NetworkUtils.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <deque>
 #include <stack>
 #include <utility>
 
+#include "common/NumericalUtils.h"
 #include "core/ElementsFilter.h"
 
 namespace {
@@ -168,6 +170,62 @@ std::shared_ptr<Link> NetworkUtils::getLinkDown(const std::shared_ptr<Node>& nod
     if (link->getDownstream()->getId() == downstreamId) return link;
   }
   return nullptr;
+}
+
+std::vector<std::shared_ptr<Node>> NetworkUtils::getAllDownstreamNodes(
+    const std::shared_ptr<Node>& node, const std::set<ElementType>& types, bool onlyEnabled) {
+  std::vector<std::shared_ptr<Node>> found;
+  std::set<unsigned int> visited = {node->getId()};
+  std::stack<std::shared_ptr<Node>> pending;
+  pending.push(node);
+  while (!pending.empty()) {
+    const std::shared_ptr<Node> current = pending.top();
+    pending.pop();
+    const auto& links = onlyEnabled ? current->getEnabledDownstreamLinks()
+                                    : current->getDownstreamLinks();
+    for (auto it = links.rbegin(); it != links.rend(); ++it) {
+      const std::shared_ptr<Node> next = (*it)->getDownstream();
+      if (!next || (onlyEnabled && !next->isEnabled())) continue;
+      if (!visited.insert(next->getId()).second) continue;
+      pending.push(next);
+    }
+    if (current != node && types.count(current->getType()) != 0) found.push_back(current);
+  }
+  return found;
+}
+
+void NetworkUtils::checkDownAndUpInLinks(const std::shared_ptr<Node>& upstream,
+                                         const std::shared_ptr<Node>& downstream,
+                                         const std::vector<std::shared_ptr<Link>>& links) {
+  for (const auto& link : links) {
+    const auto up = link->getUpstream();
+    const auto down = link->getDownstream();
+    if ((up == upstream && down == downstream) || (up == downstream && down == upstream)) {
+      throw RepeatedLinkException();
+    }
+  }
+}
+
+void NetworkUtils::checkInvalidBidirectionalLink(const std::shared_ptr<Node>& first,
+                                                 const std::shared_ptr<Node>& second) {
+  for (const auto& node : {first, second}) {
+    const auto other = node == first ? second : first;
+    for (const auto& link : node->getDownstreamLinks()) {
+      if (link->getIsBidirectional() && link->getDownstream() == other) {
+        throw InvalidBidirectionalLinkException();
+      }
+    }
+  }
+}
+
+Point2D NetworkUtils::getPositionNear(const std::shared_ptr<Node>& node) {
+  constexpr double kShift = 0.005;
+  return {node->getX() + kShift, node->getY() - kShift};
+}
+
+void NetworkUtils::initializeSeed() {
+  NumericalUtils::setRandomSeed(
+      static_cast<unsigned int>(std::chrono::system_clock::now().time_since_epoch().count()));
 }
 
 double NetworkUtils::upStreamSumFlow(const std::shared_ptr<Node>& node, const Date& date,

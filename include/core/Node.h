@@ -39,6 +39,10 @@ class Node : public Element {
   std::shared_ptr<Element> copy() const override;
 
  protected:
+  // Replaces both link lists, for a reservoir undoing the inversions of a date.
+  void setLinks(std::vector<std::shared_ptr<Link>> upstream,
+                std::vector<std::shared_ptr<Link>> downstream);
+
   Node(const EnumElementType& elementType, SeriesContainerPtr inputSeries, const Point2D& position)
       : Element(elementType, std::move(inputSeries)), position(position) {}
 

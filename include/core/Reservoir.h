@@ -26,6 +26,12 @@ class Reservoir : public Node {
   }
   // Keeps a copy of both link lists, from which inversions of bidirectional links are undone.
   void backupLinks();
+  // Moves link from the outgoing to the end of the incoming list, or the other way; a link in
+  // neither list is left alone.
+  void invertLink(const std::shared_ptr<Link>& link);
+  // Sets both lists back from the copy kept by backupLinks(), order included.
+  void restoreInversionLink();
+  bool hasBidirectionalLink() const;
 
   // Node::copy, the institutional ids, the volumes, both tables, a new interpolator of the same
   // kind, the isolation flag and the maximum release.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -34,7 +35,7 @@ class OperationSystem {
   virtual std::vector<std::shared_ptr<Link>> allocation(const std::shared_ptr<Node>& node);
   // Writes the element's results at the current date through the writer of its kind.
   virtual void updateResults(const std::shared_ptr<Element>& element);
-  // Visits the enabled nodes in level order. callback receives (position, total) after each
+  // Visits the enabled nodes in level order, that of the network's present shape. callback receives (position, total) after each
   // node and stops the pass by answering false.
   virtual void postProcessing(const Callback& callback);
   // One period at the current date.
@@ -65,11 +66,16 @@ class OperationSystem {
   const Enum<ScenarioType>& getScenarioType() const { return scenarioType; }
 
  private:
+  // The visiting order of the network as it stands at the current date.
+  const Elements& levelOrder();
+
   Date date;
   unsigned int windowIndex = 0;
   const SettingsManager& settingsManager;
   Elements elements;
-  Elements nodesInLevelOrder;
+  // The visiting order of each shape the network takes: keyed by the ids of the links that run
+  // inverted (none for the stored network).
+  std::map<std::vector<unsigned int>, Elements> nodesInLevelOrder;
   Interval interval;
   bool zeroContribution;
   Enum<ScenarioType> scenarioType;

@@ -12,7 +12,10 @@ class RuleOperation : public OperationSystem {
   // The upstream reservoir's "Vazão vertida" at the current date, m³/s.
   double spill(const std::shared_ptr<Link>& link) override;
   void postProcessing(const Callback& callback) override;
-  // Throws NetworkUtils::LoopException when a network with bidirectional links has a loop.
+  // Turns the bidirectional links the way the storage of the date calls for, runs the period and
+  // turns them back. Throws NetworkUtils::LoopException, with the network restored, when the
+  // turned network has a loop. A network without bidirectional links never changes shape, so it
+  // skips the turning and the loop search (validation tests its loops before the run).
   void runModel() override;
 
   // Tells each reservoir's rule the interval and window of the run.

@@ -30,6 +30,12 @@ void Node::removeDownstream(const std::shared_ptr<Link>& link) {
   removeById(downstreamLinks, link);
 }
 
+void Node::setLinks(std::vector<std::shared_ptr<Link>> upstream,
+                    std::vector<std::shared_ptr<Link>> downstream) {
+  upstreamLinks = std::move(upstream);
+  downstreamLinks = std::move(downstream);
+}
+
 std::vector<std::shared_ptr<Link>> Node::getEnabledDownstreamLinks() const {
   std::vector<std::shared_ptr<Link>> result;
   std::copy_if(downstreamLinks.begin(), downstreamLinks.end(), std::back_inserter(result),

@@ -4,6 +4,7 @@
 
 #include "common/NumericalUtils.h"
 #include "common/regression/RegressionTechniqueFactory.h"
+#include "core/Link.h"
 #include "core/SeriesContainers.h"
 #include "core/Vocabulary.h"
 
@@ -31,6 +32,27 @@ Reservoir::Reservoir(const Point2D& position,
 void Reservoir::backupLinks() {
   upstreamBackupLinks = getUpstreamLinks();
   downstreamBackupLinks = getDownstreamLinks();
+}
+
+void Reservoir::invertLink(const std::shared_ptr<Link>& link) {
+  const auto sameLink = [&link](const std::shared_ptr<Link>& l) { return l->getId() == link->getId(); };
+  const auto& downstream = getDownstreamLinks();
+  const auto& upstream = getUpstreamLinks();
+  if (std::any_of(downstream.begin(), downstream.end(), sameLink)) {
+    Node::removeDownstream(link);
+    addUpstream(link);
+  } else if (std::any_of(upstream.begin(), upstream.end(), sameLink)) {
+    removeUpstream(link);
+    Node::addDownstream(link);
+  }
+}
+
+void Reservoir::restoreInversionLink() { setLinks(upstreamBackupLinks, downstreamBackupLinks); }
+
+bool Reservoir::hasBidirectionalLink() const {
+  const auto bidirectional = [](const std::shared_ptr<Link>& l) { return l->getIsBidirectional(); };
+  return std::any_of(getUpstreamLinks().begin(), getUpstreamLinks().end(), bidirectional) ||
+         std::any_of(getDownstreamLinks().begin(), getDownstreamLinks().end(), bidirectional);
 }
 
 std::shared_ptr<Element> Reservoir::copy() const {

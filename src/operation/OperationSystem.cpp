@@ -1,6 +1,5 @@
 #include "operation/OperationSystem.h"
 
-#include <map>
 
 #include "core/NetworkUtils.h"
 #include "operation/ResultsWriterFactory.h"
@@ -23,11 +22,26 @@ void OperationSystem::updateResults(const std::shared_ptr<Element>& element) {
       ->write(date, windowIndex, element, interval, zeroContribution);
 }
 
+const OperationSystem::Elements& OperationSystem::levelOrder() {
+  std::vector<unsigned int> invertedLinks;
+  if (hasBidirectionalLink) {
+    for (const auto& element : elements) {
+      const auto link = std::dynamic_pointer_cast<Link>(element);
+      if (link && link->getCurrentSense() != 0) invertedLinks.push_back(link->getId());
+    }
+  }
+  auto it = nodesInLevelOrder.find(invertedLinks);
+  if (it == nodesInLevelOrder.end()) {
+    it = nodesInLevelOrder.emplace(invertedLinks, NetworkUtils::levelOrderLegacy(elements)).first;
+  }
+  return it->second;
+}
+
 void OperationSystem::postProcessing(const Callback& callback) {
-  if (nodesInLevelOrder.empty()) nodesInLevelOrder = NetworkUtils::levelOrderLegacy(elements);
-  const long total = static_cast<long>(nodesInLevelOrder.size());
+  const Elements& order = levelOrder();
+  const long total = static_cast<long>(order.size());
   long position = 0;
-  for (const auto& element : nodesInLevelOrder) {
+  for (const auto& element : order) {
     ++position;
     if (element->isEnabled()) {
       const auto node = std::static_pointer_cast<Node>(element);

@@ -4,6 +4,7 @@
 #include "core/ElementsFilter.h"
 #include "core/NetworkUtils.h"
 #include "core/ReservoirRuleSettings.h"
+#include "operation/BidirectionalLinkManager.h"
 #include "operation/RuleReleaseAllocationFactory.h"
 
 double RuleOperation::release(const std::shared_ptr<Link>& link) {
@@ -26,8 +27,28 @@ void RuleOperation::postProcessing(const Callback& callback) {
 
 void RuleOperation::runModel() {
   configureRuleReservoirs();
-  if (getHasBidirectionalLink() && hasLoop()) throw NetworkUtils::LoopException();
-  postProcessing(nullptr);
+  if (!getHasBidirectionalLink()) {
+    postProcessing(nullptr);
+    return;
+  }
+  const std::vector<std::shared_ptr<Link>> links = ElementsFilter::filterByLinks(getElements());
+  BidirectionalLinkManager::configureInversionOnLinks(links, getInterval(), getDate(),
+                                                      getWindowIndex());
+  const auto restore = [&] {
+    BidirectionalLinkManager::restoreInversionOnLinks(links);
+    BidirectionalLinkManager::restoreInversionOnReservoirs(getElements());
+  };
+  if (hasLoop()) {
+    restore();
+    throw NetworkUtils::LoopException();
+  }
+  try {
+    postProcessing(nullptr);
+  } catch (...) {
+    restore();
+    throw;
+  }
+  restore();
 }
 
 void RuleOperation::configureRuleReservoirs() {

@@ -5,6 +5,7 @@
 
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
+#include "core/Reservoir.h"
 #include "core/RuleScenario.h"
 #include "core/RuleSettings.h"
 #include "core/Vocabulary.h"

@@ -49,6 +49,8 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   virtual bool run(const Progress& progress);
   // A deep copy: elements, links, settings, rules and execution method.
   std::shared_ptr<Scenario> copy() const;
+  // Lets every reservoir rule find the elements it depends on by id, after loading or copying.
+  void resolveRuleReferences();
 
   void preRun();
   void createResults();

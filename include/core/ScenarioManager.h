@@ -14,38 +14,57 @@ class ScenarioManager {
  public:
   using Progress = std::function<bool(long, long)>;
 
+  // The one manager of the process.
   static ScenarioManager& getInstance();
 
-  // Throws std::out_of_range for an absent index.
+  // The scenario at index. Throws std::out_of_range for an absent index.
   const std::shared_ptr<Scenario>& mappingScenery(unsigned int index) const;
   // The scenario with that database id / id, or null.
   std::shared_ptr<Scenario> mappingSceneryByDatabaseID(unsigned int databaseId) const;
   std::shared_ptr<Scenario> getSceneryById(unsigned int id) const;
 
+  // The scenario the interface works on, or null.
   const std::shared_ptr<Scenario>& getCurrentScenario() const { return currentScenario; }
+  // Makes scenario current; it need not be held (an isolated piece run on its own).
   void setCurrentScenario(const std::shared_ptr<Scenario>& scenario) { currentScenario = scenario; }
-  // Throws std::out_of_range for an absent index.
+  // Makes the scenario at index current. Throws std::out_of_range for an absent index.
   void setCurrentScenario(unsigned int index);
 
   unsigned int getNumberOfSceneries() const { return numberOfSceneries; }
-  const std::map<unsigned int, std::shared_ptr<Scenario>>& getSceneries() const { return sceneries; }
+  // The scenarios by index.
+  const std::map<unsigned int, std::shared_ptr<Scenario>>& getSceneries() const {
+    return sceneries;
+  }
+  // The interval of each scenario, by index.
   std::map<unsigned int, Interval> getIntervals() const;
-  // Throws std::invalid_argument "ScenarioManager::getIndexByScenId: invalid operation".
+  // The index of the scenario with that id. Throws std::invalid_argument
+  // "ScenarioManager::getIndexByScenId: invalid operation" when none has it.
   unsigned int getIndexByScenId(unsigned int id) const;
-  // Throws std::invalid_argument "ScenarioManager::getIndexOfCurrentScen: invalid operation"
-  // without scenarios, without a current one, or with a current one that is not held.
+  // The index of the current scenario. Throws std::invalid_argument
+  // "ScenarioManager::getIndexOfCurrentScen: invalid operation" without scenarios, without a
+  // current one, or with a current one that is not held.
   unsigned int getIndexOfCurrentScen() const;
 
   // Stores scenario under index; the only scenario becomes current.
   void addScenery(unsigned int index, const std::shared_ptr<Scenario>& scenario);
-  // Removes the current scenario, renumbers those after it and makes a neighbour current.
-  void deleteCurrentScenery();
+  // Removes the current scenario, renumbers those after it and makes a neighbour current; does
+  // nothing without scenarios. With fromDatabase the scenario's stored data goes too, which
+  // needs the project database: until that is open it throws std::logic_error
+  // "ScenarioManager::deleteCurrentScenery(): the project database is not open".
+  void deleteCurrentScenery(bool fromDatabase = false);
+  // Forgets every scenario and restarts the counters.
   void clear();
 
   // Runs the scenario at index and answers whether it finished. Throws std::invalid_argument
   // "ScenarioManager::executeScenery: scenery's index is invalid" for an absent index.
   bool executeScenery(int index, const Progress& progress, const Progress& databaseProgress);
+  // The steps of writing the results of elements to the database, for a progress bar: one per
+  // result series of each enabled element in each of the first numberOfWindows windows (a window
+  // an element has no results for counts nothing).
+  static long getTotalOfResultsInDatabaseProgressBar(unsigned int numberOfWindows,
+                                                     const Scenario::Elements& elements);
 
+  // The id that makeCountVirtualElementId() gives next.
   void setCountVirtualElementId(unsigned int value) { countVirtualElementId = value; }
   // The next id for an element that exists only in an interface.
   unsigned int makeCountVirtualElementId() { return countVirtualElementId++; }

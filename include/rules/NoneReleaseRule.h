@@ -8,8 +8,4 @@ class NoneReleaseRule : public ReleaseRule {
   Enum<ReleaseRuleType> getType() const override;
   // Always 0.0 m³/s.
   double getRelease(const Date& date) const override;
-  std::shared_ptr<ReleaseRule> copy() const override;
-
- private:
-  double release = 0.0;
 };

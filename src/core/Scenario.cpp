@@ -7,6 +7,7 @@
 #include "core/Link.h"
 #include "core/NetworkUtils.h"
 #include "core/Node.h"
+#include "core/ReservoirRuleSettings.h"
 #include "core/Vocabulary.h"
 #include "operation/ExecutionMethod.h"
 #include "operation/OperationSystem.h"
@@ -117,7 +118,19 @@ int Scenario::executeSceneryCheck() {
 std::shared_ptr<Scenario> Scenario::copy() const {
   std::shared_ptr<Scenario> result = copySpecific();
   copyNetworkInto(*result);
+  result->resolveRuleReferences();
   return result;
+}
+
+// Copied rules know the elements they depend on by id only; they find them in this scenario.
+void Scenario::resolveRuleReferences() {
+  for (const auto& reservoir : ElementsFilter::filterByType(elements, ElementSets::reservoir())) {
+    auto settings =
+        std::dynamic_pointer_cast<ReservoirRuleSettings>(settingsManager.getSettings(reservoir->getId()));
+    if (settings && settings->getRule()) {
+      settings->getRule()->loadAfterScenarioInstantiated(shared_from_this());
+    }
+  }
 }
 
 // Copies every element, then rebuilds the links between the copies in their original order.

@@ -1,6 +1,6 @@
 #include "core/ScenarioManager.h"
 
-#include <iterator>
+#include <algorithm>
 #include <stdexcept>
 
 ScenarioManager& ScenarioManager::getInstance() {
@@ -59,9 +59,13 @@ void ScenarioManager::addScenery(unsigned int index, const std::shared_ptr<Scena
   if (sceneries.size() == 1) currentScenario = scenario;
 }
 
-void ScenarioManager::deleteCurrentScenery() {
+void ScenarioManager::deleteCurrentScenery(bool fromDatabase) {
   if (sceneries.empty()) return;
   const unsigned int removed = getIndexOfCurrentScen();
+  if (fromDatabase) {
+    throw std::logic_error(
+        "ScenarioManager::deleteCurrentScenery(): the project database is not open");
+  }
   std::map<unsigned int, std::shared_ptr<Scenario>> renumbered;
   for (const auto& entry : sceneries) {
     if (entry.first < removed) renumbered.emplace(entry.first, entry.second);
@@ -85,8 +89,22 @@ void ScenarioManager::clear() {
 }
 
 bool ScenarioManager::executeScenery(int index, const Progress& progress, const Progress&) {
-  if (index < 0 || static_cast<unsigned int>(index) >= sceneries.size()) {
+  auto it = index < 0 ? sceneries.end() : sceneries.find(static_cast<unsigned int>(index));
+  if (it == sceneries.end()) {
     throw std::invalid_argument("ScenarioManager::executeScenery: scenery's index is invalid");
   }
-  return std::next(sceneries.begin(), index)->second->run(progress);
+  return it->second->run(progress);
+}
+
+long ScenarioManager::getTotalOfResultsInDatabaseProgressBar(unsigned int numberOfWindows,
+                                                             const Scenario::Elements& elements) {
+  long total = 0;
+  for (const auto& element : elements) {
+    if (!element->isEnabled()) continue;
+    const auto windows = std::min<std::size_t>(numberOfWindows, element->getOutputSeries().size());
+    for (unsigned int window = 0; window < windows; ++window) {
+      total += static_cast<long>(element->getVectorOfSeries(window).size());
+    }
+  }
+  return total;
 }

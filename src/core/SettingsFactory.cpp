@@ -6,14 +6,20 @@
 
 #include "core/ElementSets.h"
 #include "core/LinkRuleSettings.h"
+#include "core/PriorityDemandSettings.h"
+#include "core/PriorityPassiveSettings.h"
+#include "core/PriorityReservoirSettings.h"
+#include "core/ReservoirGuaranteeCurveSettings.h"
 #include "core/ReservoirRuleSettings.h"
 
 namespace {
 
 using Maker = std::function<std::shared_ptr<Settings>()>;
+using Makers = std::map<KeySettings, Maker>;
 
-void addRuleMakers(std::map<KeySettings, Maker>& makers, ScenarioType scenario) {
-  makers[{scenario, ElementType::reservoir}] = SettingsFactory::makeReservoirRule;
+// The kinds run by rules share the settings of every element but the reservoir.
+void addRuleMakers(Makers& makers, ScenarioType scenario, const Maker& reservoirMaker) {
+  makers[{scenario, ElementType::reservoir}] = reservoirMaker;
   for (ElementType demand : ElementSets::demands()) {
     makers[{scenario, demand}] = SettingsFactory::makeDemandRule;
   }
@@ -24,13 +30,46 @@ void addRuleMakers(std::map<KeySettings, Maker>& makers, ScenarioType scenario) 
   }
 }
 
-const std::map<KeySettings, Maker>& makers() {
-  static const std::map<KeySettings, Maker> table = [] {
-    std::map<KeySettings, Maker> result;
-    addRuleMakers(result, ScenarioType::ruleSimulator);
+void addPriorityMakers(Makers& makers) {
+  const ScenarioType scenario = ScenarioType::priorityOptimizer;
+  makers[{scenario, ElementType::reservoir}] = SettingsFactory::makeReservoirPriority;
+  for (ElementType demand : ElementSets::consumerDemands()) {
+    makers[{scenario, demand}] = SettingsFactory::makeDemandPriority;
+  }
+  makers[{scenario, ElementType::drain}] = SettingsFactory::makeDrainDemandPriority;
+  makers[{scenario, ElementType::junction}] = SettingsFactory::makeJunctionPriority;
+  makers[{scenario, ElementType::basin}] = SettingsFactory::makeBasinPriority;
+  for (ElementType link : ElementSets::links()) {
+    makers[{scenario, link}] = SettingsFactory::makeLinkPriority;
+  }
+}
+
+const Makers& makers() {
+  static const Makers table = [] {
+    Makers result;
+    addPriorityMakers(result);
+    addRuleMakers(result, ScenarioType::ruleSimulator, SettingsFactory::makeReservoirRule);
+    addRuleMakers(result, ScenarioType::ruleOptimizer, SettingsFactory::makeReservoirOptRule);
+    addRuleMakers(result, ScenarioType::guaranteeCurve,
+                  SettingsFactory::makeReservoirGuaranteeCurve);
+    addRuleMakers(result, ScenarioType::systemGuaranteeCurve,
+                  SettingsFactory::makeReservoirSystemGuaranteeCurve);
     return result;
   }();
   return table;
+}
+
+template <typename T>
+std::shared_ptr<Settings> makePriority(unsigned int priority) {
+  auto settings = std::make_shared<T>();
+  settings->setPriority(priority);
+  return settings;
+}
+
+std::shared_ptr<Settings> makeGuaranteeCurve(bool isGuaranteeCurve) {
+  auto settings = std::make_shared<ReservoirGuaranteeCurveSettings>();
+  settings->setIsGuaranteeCurve(isGuaranteeCurve);
+  return settings;
 }
 
 }  // namespace
@@ -61,4 +100,41 @@ std::shared_ptr<Settings> SettingsFactory::makeBasinRule() {
 
 std::shared_ptr<Settings> SettingsFactory::makeLinkRule() {
   return std::make_shared<LinkRuleSettings>();
+}
+
+// The optimiser gives the reservoir its optimisable rule when it sets up its decision variables.
+std::shared_ptr<Settings> SettingsFactory::makeReservoirOptRule() {
+  return std::make_shared<ReservoirRuleSettings>();
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeReservoirGuaranteeCurve() {
+  return makeGuaranteeCurve(false);
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeReservoirSystemGuaranteeCurve() {
+  return makeGuaranteeCurve(true);
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeReservoirPriority() {
+  return makePriority<PriorityReservoirSettings>(99);
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeDemandPriority() {
+  return std::make_shared<PriorityDemandSettings>();
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeDrainDemandPriority() {
+  return makePriority<PriorityDrainDemandSettings>(99);
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeJunctionPriority() {
+  return std::make_shared<PriorityJunctionSettings>();
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeBasinPriority() {
+  return std::make_shared<PriorityBasinSettings>();
+}
+
+std::shared_ptr<Settings> SettingsFactory::makeLinkPriority() {
+  return std::make_shared<PriorityLinkSettings>();
 }

@@ -11,7 +11,9 @@ Enum<ReleaseRuleType> ConstReleaseRule::getType() const {
 double ConstReleaseRule::getRelease(const Date&) const { return release; }
 
 std::shared_ptr<ReleaseRule> ConstReleaseRule::copy() const {
-  return std::make_shared<ConstReleaseRule>(*this);
+  auto rule = std::static_pointer_cast<ConstReleaseRule>(ReleaseRule::copy());
+  rule->release = release;
+  return rule;
 }
 
 void ConstReleaseRule::setRelease(double value) {

@@ -6,8 +6,4 @@ Enum<ReleaseRuleType> NoneReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::none);
 }
 
-double NoneReleaseRule::getRelease(const Date&) const { return release; }
-
-std::shared_ptr<ReleaseRule> NoneReleaseRule::copy() const {
-  return std::make_shared<NoneReleaseRule>(*this);
-}
+double NoneReleaseRule::getRelease(const Date&) const { return 0.0; }

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "core/ElementSets.h"
+#include "core/ElementsFilter.h"
 #include "core/NetworkUtils.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
@@ -96,4 +100,42 @@ TEST_F(LevelOrder, FlowSumsSkipDisabledLinks) {
   EXPECT_DOUBLE_EQ(NetworkUtils::downStreamArtificialSumFlow(a, date, 0), 0.0);
   l2->setEnabled(false);
   EXPECT_DOUBLE_EQ(NetworkUtils::upStreamSumFlow(j, date, 0), 2.5);
+}
+
+TEST_F(LevelOrder, DownstreamSearchAndLinkChecks) {
+  auto r1 = net.node(ElementType::reservoir);
+  auto j = net.node(ElementType::junction);
+  auto d1 = net.node(ElementType::humanDemand);
+  auto r2 = net.node(ElementType::reservoir);
+  auto d2 = net.node(ElementType::animalDemand);
+  auto drain = net.node(ElementType::drain);
+  net.link(r1, j);
+  net.link(j, d1);
+  net.link(j, r2);
+  auto toD2 = net.link(r2, d2);
+  net.link(d1, drain);
+  const std::set<ElementType> demands = {ElementType::humanDemand, ElementType::animalDemand};
+  auto found = NetworkUtils::getAllDownstreamNodes(r1, demands, true);
+  EXPECT_EQ(ids(NetworkUtils::Elements(found.begin(), found.end())),
+            (std::vector<unsigned int>{d1->getId(), d2->getId()}));
+  toD2->setEnabled(false);
+  EXPECT_EQ(NetworkUtils::getAllDownstreamNodes(r1, demands, true).size(), 1u);
+  EXPECT_EQ(NetworkUtils::getAllDownstreamNodes(r1, demands, false).size(), 2u);
+  // The start is never among the finds, even of a type asked for.
+  EXPECT_EQ(NetworkUtils::getAllDownstreamNodes(r1, ElementSets::reservoir(), true).size(), 1u);
+
+  const auto links = ElementsFilter::filterByLinks(net.scenario->getElements());
+  EXPECT_THROW_TEXT(NetworkUtils::checkDownAndUpInLinks(d1, j, links),
+                    NetworkUtils::RepeatedLinkException,
+                    "There is already a link with this upstream and downstream");
+  NetworkUtils::checkDownAndUpInLinks(r2, d1, links);
+  auto r3 = net.node(ElementType::reservoir);
+  net.link(r2, r3)->setIsBidirectional(true);
+  EXPECT_THROW_TEXT(NetworkUtils::checkInvalidBidirectionalLink(r3, r2),
+                    NetworkUtils::InvalidBidirectionalLinkException, "Invalid bidirectional link");
+  NetworkUtils::checkInvalidBidirectionalLink(r1, r3);
+  r1->setX(-44.0);
+  const Point2D near = NetworkUtils::getPositionNear(r1);
+  EXPECT_NE(near.x, -44.0);
+  EXPECT_LT(std::abs(near.x + 44.0), 0.1);
 }

@@ -2,6 +2,7 @@
 
 #include "core/LinkRuleSettings.h"
 #include "rules/ConstReleaseRule.h"
+#include "core/ReservoirGuaranteeCurveSettings.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/SettingsFactory.h"
 #include "core/SettingsManager.h"
@@ -78,4 +79,21 @@ TEST(RuleScenario, AllocationMatricesFollowTheNetwork) {
   EXPECT_THROW_TEXT(Scenario::getSettings<ReservoirRuleSettings>(junction,
                                                                  net.scenario->getSettingsManager()),
                     std::invalid_argument, "Passed element is not valid for element setting");
+}
+
+TEST(ReservoirGuaranteeCurveSettings, CopyKeepsTheMarkAndOwnsAnotherRule) {
+  ReservoirGuaranteeCurveSettings settings;
+  settings.setElementId(2);
+  settings.setIsGuaranteeCurve(true);
+  auto rule = std::make_shared<ConstReleaseRule>();
+  rule->setRelease(3.0);
+  settings.setRule(rule);
+  auto copy = std::dynamic_pointer_cast<ReservoirGuaranteeCurveSettings>(settings.copy());
+  ASSERT_NE(copy, nullptr);
+  EXPECT_TRUE(copy->getIsGuaranteeCurve());
+  EXPECT_EQ(copy->getElementId(), 2u);
+  ASSERT_NE(copy->getRule(), nullptr);
+  EXPECT_NE(copy->getRule(), rule);
+  rule->setRelease(8.0);
+  EXPECT_EQ(copy->getRule()->getRelease(Date()), 3.0);
 }

@@ -13,13 +13,13 @@
 namespace {
 
 // Rows of (level m, area km², volume hm³). The working table drops the first row, so volume to
-// area runs through (1, 2), (3, 5), (7, 9), (15, 14): slopes 1.5, 1 and 0.625.
+// area runs through (10, 2), (30, 5), (70, 9), (150, 14).
 const std::vector<std::vector<double>> kCav = {
-    {100, 0, 0}, {101, 2, 1}, {102, 5, 3}, {103, 9, 7}, {104, 14, 15}};
+    {100, 0, 0}, {101, 2, 10}, {102, 5, 30}, {103, 9, 70}, {104, 14, 150}};
 
-// Reservoir -> natural link -> drain, monthly over the first quarter of 2001, with 2 m³/s of
-// natural inflow, 50 mm of rain and 100 mm of evaporation each month and a constant rule of
-// 1.5 m³/s shared entirely to the link.
+// Reservoir -> natural link -> drain, monthly over the first quarter of 2001, starting at 50 hm³
+// with a minimum of 10, 8 m³/s of natural inflow, 50 mm of rain and 100 mm of evaporation each
+// month, and a constant rule of 5 m³/s shared entirely to the link.
 struct ReservoirToDrain {
   NetworkBuilder net{Interval(Date(2001, 1, 1), Date(2001, 3, 1), Vocabulary::of(Periodicity::monthly))};
   std::shared_ptr<Reservoir> reservoir;
@@ -32,15 +32,15 @@ struct ReservoirToDrain {
     river = net.link(reservoir, drain);
     ReservoirInfo& info = reservoir->getReservoirInfo();
     info.cav = kCav;
-    info.initVol = 5.0;
-    info.minVol = 1.0;
+    info.initVol = 50.0;
+    info.minVol = 10.0;
     info.maxVol = maxVol;
-    reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->fill(2.0);
+    reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->fill(8.0);
     reservoir->getInputSerie(SerieType::precipitation)->fill(50.0);
     reservoir->getInputSerie(SerieType::evaporation)->fill(100.0);
-    net.allocation(reservoir, {{double(reservoir->getId()), double(river->getId())}, {0, 0}, {10, 10}});
+    net.allocation(reservoir, {{double(reservoir->getId()), double(river->getId())}, {0, 0}, {100, 100}});
     auto rule = std::make_shared<ConstReleaseRule>();
-    rule->setRelease(1.5);
+    rule->setRelease(5.0);
     Scenario::getSettings<ReservoirRuleSettings>(reservoir, net.scenario->getSettingsManager())
         ->setRule(rule);
   }
@@ -76,58 +76,79 @@ TEST(ReservoirStorage, WorkingTableAndLookups) {
 }
 
 TEST(ReservoirOperation, JanuaryCloseComputedByHand) {
-  ReservoirToDrain case_(15.0);
+  ReservoirToDrain case_(150.0);
   ASSERT_TRUE(case_.net.scenario->run(nullptr));
   const Date jan(2001, 1, 1);
-  // Area at the initial 5 hm³: 5 + (5 - 3) * 1 = 7 km²; rain 50 * 7 / 1000 = 0.35 hm³,
-  // evaporation 0.7 hm³, inflow 2 * 2.6784 = 5.3568 hm³, release 1.5 * 2.6784 = 4.0176 hm³.
-  const double final = 5.0 + 2 * kJanuary + 0.35 - 0.7 - 1.5 * kJanuary;
-  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::initialVolume, jan), 5.0, 1e-12);
+  // Area at the initial 50 hm³: 5 + (50 - 30) * 4 / 40 = 7 km²; rain 50 * 7 / 1000 = 0.35 hm³,
+  // evaporation 0.7 hm³, inflow 8 * 2.6784 = 21.4272 hm³, release 5 * 2.6784 = 13.392 hm³.
+  const double final = 50.0 + 8 * kJanuary + 0.35 - 0.7 - 5 * kJanuary;
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::initialVolume, jan), 50.0, 1e-12);
   EXPECT_NEAR(case_.out(case_.reservoir, SerieType::finalVolume, jan), final, 1e-9);
   EXPECT_NEAR(case_.out(case_.reservoir, SerieType::area, jan), 7.0, 1e-12);
   EXPECT_NEAR(case_.out(case_.reservoir, SerieType::level, jan), 102.5, 1e-12);
   EXPECT_NEAR(case_.out(case_.reservoir, SerieType::precipitatedVolume, jan), 0.35, 1e-12);
   EXPECT_NEAR(case_.out(case_.reservoir, SerieType::evaporatedVolume, jan), 0.7, 1e-12);
-  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::upstreamUncontrolledVolume, jan), 2 * kJanuary, 1e-12);
-  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::releasedFlow, jan), 1.5, 1e-9);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::upstreamUncontrolledVolume, jan), 8 * kJanuary,
+              1e-12);
+  EXPECT_EQ(case_.out(case_.reservoir, SerieType::upstreamUncontrolledFlow, jan), 8.0);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::releasedFlow, jan), 5.0, 1e-9);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::releasedVolume, jan), 5 * kJanuary, 1e-9);
   EXPECT_EQ(case_.out(case_.reservoir, SerieType::spilledVolume, jan), 0.0);
-  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::outflowVolume, jan), 1.5 * kJanuary, 1e-9);
-  EXPECT_NEAR(case_.out(case_.river, SerieType::outflow, jan), 1.5, 1e-9);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::outflow, jan), 5.0, 1e-9);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::outflowVolume, jan), 5 * kJanuary, 1e-9);
+  EXPECT_NEAR(case_.out(case_.river, SerieType::outflow, jan), 5.0, 1e-9);
   // A drain demands 99999 m³/s and so shows the rest as shortage, and a failure.
-  EXPECT_NEAR(case_.out(case_.drain, SerieType::supplyShortage, jan), 99999.0 - 1.5, 1e-6);
+  EXPECT_NEAR(case_.out(case_.drain, SerieType::supplyShortage, jan), 99999.0 - 5.0, 1e-6);
   EXPECT_EQ(case_.out(case_.drain, SerieType::supplyFailure, jan), 1.0);
   // February starts from January's final volume.
   EXPECT_NEAR(case_.out(case_.reservoir, SerieType::initialVolume, Date(2001, 2, 1)), final, 1e-12);
 }
 
 TEST(ReservoirOperation, FullReservoirSpillsIntoItsNaturalLink) {
-  ReservoirToDrain case_(6.0);
+  ReservoirToDrain case_(55.0);
   ASSERT_TRUE(case_.net.scenario->run(nullptr));
-  const Date feb(2001, 2, 1);
-  const double start = 5.0 + 2 * kJanuary + 0.35 - 0.7 - 1.5 * kJanuary;  // below 6
-  const double surface = 5.0 + (start - 3.0);
-  const double rain = 50 * surface / 1000, evaporation = 100 * surface / 1000;
-  // Useful capacity 6 - 1 = 5 hm³; what could be held above the minimum beyond it is the excess,
-  // and the release counts against it.
-  const double excess = (start - 1.0) + 2 * kFebruary + rain - evaporation - 5.0;
-  const double spilled = excess - 1.5 * kFebruary;
-  EXPECT_EQ(case_.out(case_.reservoir, SerieType::finalVolume, feb), 6.0);
-  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::spilledVolume, feb), spilled, 1e-9);
-  EXPECT_NEAR(case_.out(case_.river, SerieType::inflow, feb), 1.5 + spilled / kFebruary, 1e-9);
-  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::outflow, feb), 1.5 + spilled / kFebruary, 1e-9);
+  const Date jan(2001, 1, 1), feb(2001, 2, 1);
+  // Useful capacity 55 - 10 = 45 hm³. What could be held above the minimum beyond it is the
+  // excess, (50 - 10) + 21.4272 + 0.35 - 0.7 - 45 = 16.0772 hm³; the release of 13.392 counts
+  // against it, and the rest, 2.6852 hm³, spills: exactly what the lake holds above 55.
+  const double spilled = 8 * kJanuary - 5 * kJanuary + 0.35 - 0.7 - 5.0;
+  EXPECT_EQ(case_.out(case_.reservoir, SerieType::finalVolume, jan), 55.0);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::spilledVolume, jan), spilled, 1e-9);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::spilledFlow, jan), spilled / kJanuary, 1e-9);
+  EXPECT_NEAR(case_.out(case_.river, SerieType::inflow, jan), 5.0 + spilled / kJanuary, 1e-9);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::outflow, jan), 5.0 + spilled / kJanuary, 1e-9);
+  // February starts full: area 5 + 25 * 0.1 = 7.5 km², and again what exceeds 55 spills.
+  const double februarySpill = (8 - 5) * kFebruary + (50 - 100) * 7.5 / 1000;
+  EXPECT_EQ(case_.out(case_.reservoir, SerieType::initialVolume, feb), 55.0);
+  EXPECT_NEAR(case_.out(case_.reservoir, SerieType::spilledVolume, feb), februarySpill, 1e-9);
+}
+
+TEST(HydrologicalBalanceClose, ZeroContributionKeepsEvaporationOnly) {
+  ReservoirToDrain case_(150.0);
+  const Date jan(2001, 1, 1);
+  case_.reservoir->getReservoirInfo().calculateCav(ReservoirInfo::volume);
+  const auto monthly = HydrologicalBalanceFactory::make(Periodicity::monthly);
+  // Without nature: 50 - 0.7 evaporated - 3 released = 46.3.
+  EXPECT_NEAR(monthly->balance(case_.reservoir, jan, 50.0, true, 0.0, 3.0), 46.3, 1e-12);
+  EXPECT_NEAR(monthly->balance(case_.reservoir, jan, 50.0, false, 1.0, 0.0),
+              50.0 + 1.0 + 8 * kJanuary + 0.35 - 0.7, 1e-12);
+  // An empty lake has no surface: no rain, no evaporation.
+  EXPECT_NEAR(monthly->balance(case_.reservoir, jan, 0.0, false, 0.0, 0.0), 8 * kJanuary, 1e-12);
+  // A stock and a loss within 1e-6 of each other leave exactly nothing.
+  EXPECT_EQ(monthly->balance(case_.reservoir, jan, 50.0, true, 0.0, 50.0 - 0.7 + 5e-7), 0.0);
 }
 
 TEST(ReservoirOperation, ReleaseIsCutToStorageAndMaximum) {
-  ReservoirToDrain atMinimum(15.0);
+  ReservoirToDrain atMinimum(150.0);
   ReservoirInfo& info = atMinimum.reservoir->getReservoirInfo();
-  info.initVol = 1.0;
+  info.initVol = 10.0;
   atMinimum.reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->fill(0.0);
   atMinimum.reservoir->getInputSerie(SerieType::evaporation)->fill(0.0);
   atMinimum.reservoir->getInputSerie(SerieType::precipitation)->fill(0.0);
   ASSERT_TRUE(atMinimum.net.scenario->run(nullptr));
   EXPECT_EQ(atMinimum.out(atMinimum.river, SerieType::inflow, Date(2001, 1, 1)), 0.0);
 
-  ReservoirToDrain capped(15.0);
+  ReservoirToDrain capped(150.0);
   capped.reservoir->getReservoirInfo().maxRelease = 0.5;
   ASSERT_TRUE(capped.net.scenario->run(nullptr));
   EXPECT_NEAR(capped.out(capped.river, SerieType::inflow, Date(2001, 1, 1)), 0.5, 1e-9);

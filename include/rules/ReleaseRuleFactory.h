@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/EnumTypes.h"
+#include "rules/ReleaseRule.h"
+
+// Makes release rules in their default state, by type or by display name (the names of
+// Vocabulary::releaseRuleTypes()). Both throw std::invalid_argument
+// "ReleaseRuleFactory::make(): invalid ReleaseRuleType" for a type or name without a rule here.
+class ReleaseRuleFactory {
+ public:
+  static std::shared_ptr<ReleaseRule> make(ReleaseRuleType type);
+  static std::shared_ptr<ReleaseRule> make(const std::string& name);
+
+  static std::shared_ptr<ReleaseRule> makeNoneReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeConstReleaseRule();
+  static std::shared_ptr<ReleaseRule> makePeriodicReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeSerieReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeHydrologicalStateReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeVolDepOneStaticRelease();
+  static std::shared_ptr<ReleaseRule> makeVolDepOnePeriodicRelease();
+  static std::shared_ptr<ReleaseRule> makeVolDepTwoStaticRelease();
+  static std::shared_ptr<ReleaseRule> makeVolDepTwoPeriodicRelease();
+};

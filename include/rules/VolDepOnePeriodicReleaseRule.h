@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vector>
+
+#include "rules/VolDepOneReleaseRule.h"
+
+// A one-reservoir step table with twelve releases per row, one per calendar month.
+class VolDepOnePeriodicReleaseRule : public VolDepOneReleaseRule {
+ public:
+  Enum<ReleaseRuleType> getType() const override;
+  // As VolDepOneReleaseRule, first throwing std::invalid_argument "VolDepOnePeriodicReleaseRule:
+  // the releases vector must be the size 12." for a row without exactly twelve releases.
+  void setVectorOfVolDepOneReleaseStruct(const std::vector<VolDepOneReleaseStruct>& rows) override;
+
+ protected:
+  // The row's release of the month of date, m³/s.
+  double doGetRelease(const Date& date, unsigned int row) const override;
+};

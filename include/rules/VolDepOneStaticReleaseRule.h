@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vector>
+
+#include "rules/VolDepOneReleaseRule.h"
+
+// A one-reservoir step table with one release per row, whatever the month.
+class VolDepOneStaticReleaseRule : public VolDepOneReleaseRule {
+ public:
+  Enum<ReleaseRuleType> getType() const override;
+  // As VolDepOneReleaseRule, first throwing std::invalid_argument "VolDepOneStaticReleaseRule:
+  // the releases vector must not be empty." for a row without a release; only the first counts.
+  void setVectorOfVolDepOneReleaseStruct(const std::vector<VolDepOneReleaseStruct>& rows) override;
+
+ protected:
+  // The row's first release, m³/s.
+  double doGetRelease(const Date& date, unsigned int row) const override;
+};

@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "core/CoreServiceManager.h"
+#include "core/Demand.h"
+#include "core/LinkRuleSettings.h"
+#include "core/NetworkUtils.h"
+#include "core/RuleScenario.h"
+#include "core/RuleSettings.h"
+#include "core/Vocabulary.h"
+#include "operation/ExecutionContinuous.h"
+#include "support/ExpectThrow.h"
+
+namespace {
+
+using CSM = CoreServiceManager;
+
+std::vector<unsigned int> ids(const std::vector<std::shared_ptr<Link>>& links) {
+  std::vector<unsigned int> result;
+  for (const auto& link : links) result.push_back(link->getId());
+  return result;
+}
+
+class CoreServiceManagerTest : public ::testing::Test {
+ protected:
+  std::shared_ptr<Node> node(ElementType type) {
+    return CSM::createNodeNoDatabase(scenario, type, Point2D{}, true);
+  }
+  std::shared_ptr<Link> link(const std::shared_ptr<Node>& up, const std::shared_ptr<Node>& down) {
+    return CSM::createLinkNoDatabase(scenario, ElementType::naturalLink, up, down, true);
+  }
+  std::shared_ptr<RuleSettings> ruleSettings(const std::shared_ptr<Element>& element) const {
+    return Scenario::getSettings<RuleSettings>(element, scenario->getSettingsManager());
+  }
+
+  std::shared_ptr<Scenario> scenario = std::make_shared<RuleScenario>(
+      std::make_shared<ExecutionContinuous>(), 1,
+      Interval(Date(2000, 1, 1), Date(2000, 12, 1), Vocabulary::of(Periodicity::monthly)), "T");
+};
+
+}  // namespace
+
+TEST_F(CoreServiceManagerTest, CreatedNodesArePlacedNamedAndConfigured) {
+  auto reservoir = CSM::createNodeNoDatabase(scenario, ElementType::reservoir, {3.5, -7.0}, true);
+  EXPECT_EQ(reservoir->getX(), 3.5);
+  EXPECT_EQ(reservoir->getY(), -7.0);
+  EXPECT_EQ(reservoir->getName(), "Reservatório0");
+  EXPECT_TRUE(ruleSettings(reservoir)->isElementIdConfigured());
+
+  auto junction = CSM::createNodeNoDatabase(scenario, ElementType::junction, {}, 40, false);
+  EXPECT_EQ(junction->getId(), 40u);
+  EXPECT_EQ(CSM::createElementNoDatabase(scenario, ElementType::basin, true)->getId(), 41u);
+  EXPECT_EQ(scenario->getElements().size(), 3u);
+
+  EXPECT_THROW_TEXT(CSM::createNodeNoDatabase(scenario, ElementType::naturalLink, {}, true),
+                    std::invalid_argument, "CoreServiceManager::createNode(): invalid node type");
+  EXPECT_THROW_TEXT(CSM::createElementNoDatabase(scenario, ElementType::genericDemand, true),
+                    std::invalid_argument, "ElementFactory::make(): invalid elementType");
+  EXPECT_THROW_TEXT(
+      CSM::createLinkNoDatabase(scenario, ElementType::junction, reservoir, junction, true),
+      std::invalid_argument, "CoreServiceManager::createLink(): invalid link type");
+  EXPECT_EQ(scenario->getElements().size(), 3u);
+}
+
+TEST_F(CoreServiceManagerTest, NewLinksJoinTheirNodesAndTheAllocationMatrix) {
+  auto reservoir = node(ElementType::reservoir);
+  auto drain = node(ElementType::drain);
+  auto river = link(reservoir, drain);
+  EXPECT_EQ(river->getUpstream(), reservoir);
+  EXPECT_EQ(ids(drain->getUpstreamLinks()), std::vector<unsigned int>{river->getId()});
+  EXPECT_EQ(ruleSettings(reservoir)->getAllocation().count(river->getId()), 1u);
+
+  auto other = node(ElementType::junction);
+  auto copy = CSM::createLinkCopyNoDatabase(river, scenario, other, drain, false);
+  EXPECT_EQ(copy->getType(), ElementType::naturalLink);
+  EXPECT_EQ(copy->getName(), river->getName());
+  EXPECT_NE(copy->getLinkAddon(), river->getLinkAddon());
+  EXPECT_EQ(copy->getLinkAddon()->getType(), river->getLinkAddon()->getType());
+  EXPECT_EQ(ruleSettings(other)->getAllocation().count(copy->getId()), 1u);
+}
+
+TEST_F(CoreServiceManagerTest, NodesAlreadyJoinedEitherWayRefuseASecondLink) {
+  auto a = node(ElementType::junction);
+  auto b = node(ElementType::junction);
+  link(a, b);
+  const struct { std::shared_ptr<Node> up, down; } attempts[] = {{a, b}, {b, a}};
+  for (const auto& attempt : attempts) {
+    EXPECT_THROW_TEXT(CSM::createLinkNoDatabase(scenario, ElementType::artificialLink, attempt.up,
+                                                attempt.down, true),
+                      NetworkUtils::RepeatedLinkException,
+                      "There is already a link with this upstream and downstream");
+  }
+  EXPECT_EQ(scenario->getElements().size(), 3u);
+  EXPECT_EQ(a->getDownstreamLinks().size() + a->getUpstreamLinks().size(), 1u);
+  EXPECT_EQ(b->getDownstreamLinks().size() + b->getUpstreamLinks().size(), 1u);
+}
+
+TEST_F(CoreServiceManagerTest, DeletingANodeRemovesItsLinksFromItsNeighbours) {
+  auto demand = std::static_pointer_cast<Demand>(node(ElementType::humanDemand));
+  auto junction = node(ElementType::junction);
+  auto drain = node(ElementType::drain);
+  auto toJunction = link(demand, junction);
+  auto toDrain = link(demand, drain);
+  auto onward = link(junction, drain);
+  demand->setDemandReturnPercentage(toJunction, 30.0);
+  demand->setDemandReturnPercentage(toDrain, 50.0);
+
+  CSM::deleteElementNoDatabase(scenario, junction);
+  EXPECT_EQ(scenario->getElements().size(), 3u);
+  EXPECT_EQ(ids(demand->getDownstreamLinks()), std::vector<unsigned int>{toDrain->getId()});
+  EXPECT_EQ(demand->getDemandReturnPercentages(), std::vector<double>{50.0});
+  EXPECT_EQ(ids(drain->getUpstreamLinks()), std::vector<unsigned int>{toDrain->getId()});
+  EXPECT_EQ(ruleSettings(demand)->getAllocation().count(toJunction->getId()), 0u);
+  for (unsigned int gone : {junction->getId(), toJunction->getId(), onward->getId()}) {
+    EXPECT_FALSE(scenario->getSettingsManager().contains(gone));
+  }
+}
+
+TEST_F(CoreServiceManagerTest, ChangingALinkTypeKeepsWhatTheScenarioHoldsAboutIt) {
+  auto demand = std::static_pointer_cast<Demand>(node(ElementType::humanDemand));
+  auto junction = node(ElementType::junction);
+  auto drain = node(ElementType::drain);
+  auto canal = link(demand, junction);
+  auto toDrain = link(demand, drain);
+  demand->setDemandReturnPercentage(canal, 30.0);
+  demand->setDemandReturnPercentage(toDrain, 50.0);
+  const double d = demand->getId(), c = canal->getId(), t = toDrain->getId();
+  ruleSettings(demand)->setAllocationByMatrixOfDouble({{d, c, t}, {0, 0, 0}, {10, 4, 6}});
+  const auto allocation = ruleSettings(demand)->getAllocation();
+  canal->getInputSerie(SerieType::linkLimit)->fill(12.0);
+  Scenario::getSettings<LinkRuleSettings>(canal, scenario->getSettingsManager())
+      ->setValues({1.0, 2.0});
+
+  auto changed = CSM::changeLinkTypeNoDatabase(canal, ElementType::artificialLink, scenario);
+  EXPECT_EQ(changed->getType(), ElementType::artificialLink);
+  EXPECT_EQ(changed->getId(), canal->getId());
+  EXPECT_EQ(changed->getName(), canal->getName());
+  EXPECT_EQ(changed->getUpstream(), demand);
+  EXPECT_EQ(changed->getDownstream(), junction);
+  EXPECT_EQ(scenario->getElement(changed->getId()), changed);
+  ASSERT_EQ(junction->getUpstreamLinks().size(), 1u);
+  EXPECT_EQ(junction->getUpstreamLinks()[0], changed);
+  EXPECT_EQ(demand->getDemandReturnPercentage(changed), 30.0);
+  EXPECT_EQ(demand->getDemandReturnPercentage(toDrain), 50.0);
+  EXPECT_EQ(ruleSettings(demand)->getAllocation(), allocation);
+  EXPECT_EQ(changed->getInputSerie(SerieType::linkLimit)->getValue(Date(2000, 6, 1)), 12.0);
+  EXPECT_EQ(
+      Scenario::getSettings<LinkRuleSettings>(changed, scenario->getSettingsManager())->getValues(),
+      (std::vector<double>{1.0, 2.0}));
+
+  EXPECT_EQ(CSM::changeLinkTypeNoDatabase(changed, ElementType::artificialLink, scenario), changed);
+  EXPECT_THROW_TEXT(CSM::changeLinkTypeNoDatabase(changed, ElementType::drain, scenario),
+                    std::invalid_argument,
+                    "CoreServiceManager::changeLinkType(): invalid link type");
+}

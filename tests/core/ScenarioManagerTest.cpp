@@ -75,14 +75,6 @@ TEST_F(ScenarioManagerTest, ScenariosAreRunByTheirIndexNotTheirPosition) {
   EXPECT_EQ(manager.getIntervals().count(5), 1u);
 }
 
-TEST_F(ScenarioManagerTest, VirtualElementIdsCountUpFromTheSetValue) {
-  manager.setCountVirtualElementId(900);
-  EXPECT_EQ(manager.makeCountVirtualElementId(), 900u);
-  EXPECT_EQ(manager.makeCountVirtualElementId(), 901u);
-  manager.clear();
-  EXPECT_EQ(manager.makeCountVirtualElementId(), 0u);
-}
-
 TEST(ScenarioManagerProgress, OneStepPerResultSeriesOfEachEnabledElement) {
   NetworkBuilder net(NetworkBuilder::monthly(2000, 2000));
   auto junction = net.node(ElementType::junction);

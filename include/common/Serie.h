@@ -1,6 +1,7 @@
 #pragma once
 
-#include <map>
+#include <utility>
+#include <vector>
 #include <memory>
 #include <string>
 
@@ -15,6 +16,30 @@
 class Serie {
  public:
   static constexpr double kEmptyValue = -999.0;
+
+  // The stored values in ascending order of Julian day. Runs write each series date after date,
+  // so a value usually goes at the end: a sorted vector takes it without an allocation per value
+  // and reads back by binary search.
+  class Values {
+   public:
+    using Entry = std::pair<unsigned int, double>;
+    using const_iterator = std::vector<Entry>::const_iterator;
+
+    const_iterator begin() const { return entries.begin(); }
+    const_iterator end() const { return entries.end(); }
+    std::size_t size() const { return entries.size(); }
+    bool empty() const { return entries.empty(); }
+    // The entry of julian, or end().
+    const_iterator find(unsigned int julian) const;
+    // Inserts or overwrites the value of julian.
+    void set(unsigned int julian, double value);
+    void clear() { entries.clear(); }
+    bool operator==(const Values& other) const { return entries == other.entries; }
+    bool operator!=(const Values& other) const { return entries != other.entries; }
+
+   private:
+    std::vector<Entry> entries;
+  };
 
   Serie(const Interval& interval, Enum<SerieType> type, const Enum<Unit>& unit);
   virtual ~Serie() = default;
@@ -36,7 +61,7 @@ class Serie {
   bool isEmpty() const;
   std::size_t size() const { return mapOfJulianToValues.size(); }
 
-  const std::map<unsigned int, double>& getMapOfJulianToValues() const {
+  const Values& getMapOfJulianToValues() const {
     return mapOfJulianToValues;
   }
   const Interval& getInterval() const { return interval; }
@@ -52,7 +77,7 @@ class Serie {
   void copyFrom(const std::shared_ptr<Serie>& other);
 
  private:
-  std::map<unsigned int, double> mapOfJulianToValues;
+  Values mapOfJulianToValues;
   Interval interval;
   Enum<SerieType> type;
   Enum<Unit> unit;

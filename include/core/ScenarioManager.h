@@ -51,7 +51,7 @@ class ScenarioManager {
   // nothing without scenarios. With fromDatabase the scenario's stored data goes too, which
   // needs the project database: until that is open it throws std::logic_error
   // "ScenarioManager::deleteCurrentScenery(): the project database is not open".
-  void deleteCurrentScenery(bool fromDatabase = false);
+  void deleteCurrentScenery(bool fromDatabase);
   // Forgets every scenario and restarts the counters.
   void clear();
 

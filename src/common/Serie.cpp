@@ -22,8 +22,26 @@ double Serie::getValue(const Date& date, int& julian) const {
 
 void Serie::setValue(const Date& date, double value) { setValue(Date::julian(date), value); }
 
-void Serie::setValue(unsigned int julian, double value) {
-  mapOfJulianToValues.insert_or_assign(julian, value);
+void Serie::setValue(unsigned int julian, double value) { mapOfJulianToValues.set(julian, value); }
+
+Serie::Values::const_iterator Serie::Values::find(unsigned int julian) const {
+  auto it = std::lower_bound(entries.begin(), entries.end(), julian,
+                             [](const Entry& entry, unsigned int day) { return entry.first < day; });
+  return it != entries.end() && it->first == julian ? it : entries.end();
+}
+
+void Serie::Values::set(unsigned int julian, double value) {
+  if (entries.empty() || entries.back().first < julian) {
+    entries.emplace_back(julian, value);
+    return;
+  }
+  auto it = std::lower_bound(entries.begin(), entries.end(), julian,
+                             [](const Entry& entry, unsigned int day) { return entry.first < day; });
+  if (it != entries.end() && it->first == julian) {
+    it->second = value;
+  } else {
+    entries.insert(it, {julian, value});
+  }
 }
 
 void Serie::fill(double value) { fill(value, interval); }

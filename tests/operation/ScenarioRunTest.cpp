@@ -146,7 +146,7 @@ TEST_F(ScenarioRun, CancellingDropsEveryResult) {
 
 TEST_F(ScenarioRun, SecondRunAndCopyGiveIdenticalResults) {
   ASSERT_TRUE(execute(nullptr));
-  std::vector<std::map<unsigned int, double>> first;
+  std::vector<Serie::Values> first;
   for (const auto& element : network.net.scenario->getElements()) {
     for (const auto& serie : element->getVectorOfSeries(0)) first.push_back(serie->getMapOfJulianToValues());
   }
@@ -231,7 +231,7 @@ TEST(ScenarioManagerTest, IndexesCurrentScenarioAndFailures) {
   EXPECT_EQ(manager.getCurrentScenario(), first);
   EXPECT_EQ(manager.getIndexByScenId(20), 1u);
   manager.setCurrentScenario(1);
-  manager.deleteCurrentScenery();
+  manager.deleteCurrentScenery(false);
   EXPECT_EQ(manager.getNumberOfSceneries(), 2u);
   EXPECT_EQ(manager.mappingScenery(1), third);
   EXPECT_EQ(manager.getCurrentScenario(), third);

@@ -113,3 +113,13 @@ TEST(Bidirectional, InversionThatClosesALoopStopsTheRun) {
   EXPECT_EQ(p.pair->getUpstream(), p.a);
   EXPECT_EQ(p.net.scenario->getCurrentOperationSystem()->getIdsOfElementsInLoop().size(), 6u);
 }
+
+TEST(Bidirectional, OwnRowsFollowTheReservoirMatrix) {
+  ReservoirPair p;
+  auto settings =
+      Scenario::getSettings<ReservoirRuleSettings>(p.b, p.net.scenario->getSettingsManager());
+  settings->addAllocationLine();  // B now has three lines
+  settings->updateBidirectionalUpstreamLinks(p.net.scenario);
+  const auto& own = Scenario::getSettings<LinkRuleSettings>(p.pair, p.net.scenario->getSettingsManager());
+  EXPECT_EQ(own->getValues(), (std::vector<double>{0, 10, 0}));
+}

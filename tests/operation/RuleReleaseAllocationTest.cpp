@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "core/ElementSets.h"
+#include "operation/ReservoirResultsWriter.h"
+#include "operation/ResultsWriterFactory.h"
 #include "operation/RuleReleaseAllocationFactory.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
@@ -88,4 +91,18 @@ TEST(HydrologicalBalance, ConvertsByTheLengthOfThePeriod) {
   EXPECT_NEAR(HydrologicalBalanceFactory::make(Periodicity::yearly)->hm3(leapFebruary, 1.0),
               366 * 0.0864, 1e-12);
   EXPECT_NEAR(HydrologicalBalance::volume(100.0, 2.5), 0.25, 1e-15);
+  EXPECT_THROW_TEXT(HydrologicalBalanceFactory::make(static_cast<Periodicity>(3)),
+                    std::invalid_argument, "HydrologicalBalanceFactory::make(): invalid periodicity");
+}
+
+TEST(ResultsWriters, EveryRuleElementHasItsWriter) {
+  for (ElementType type : ElementSets::allElements()) {
+    EXPECT_NE(ResultsWriterFactory::make({ScenarioType::ruleSimulator, type}), nullptr);
+  }
+  EXPECT_NE(std::dynamic_pointer_cast<ReservoirRuleResultsWriter>(
+                ResultsWriterFactory::make({ScenarioType::ruleSimulator, ElementType::reservoir})),
+            nullptr);
+  EXPECT_THROW_TEXT(
+      ResultsWriterFactory::make({ScenarioType::ruleSimulator, ElementType::genericDemand}),
+      std::invalid_argument, "ResultsWriterFactory::make(): invalid key (scenarioType, elementType)");
 }

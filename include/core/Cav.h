@@ -15,6 +15,12 @@ class Cav {
       std::vector<std::vector<double>> matrix);
 
   const std::vector<std::vector<double>>& getMatrix() const { return matrix; }
+
+  // A curve kept between lookups owns its interpolator, which needs preparing only once.
+  void keepBetweenLookups() { kept = true; }
+  // Whether the interpolator must be prepared from the rows before the next lookup.
+  bool needsPreparing() const { return !kept || !prepared; }
+  void markPrepared() const { prepared = true; }
   const std::shared_ptr<RegressionTechnique>& getRegressionTechnique() const {
     return regressionTechnique;
   }
@@ -24,4 +30,6 @@ class Cav {
 
   std::shared_ptr<RegressionTechnique> regressionTechnique;
   std::vector<std::vector<double>> matrix;
+  bool kept = false;
+  mutable bool prepared = false;
 };

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <vector>
 
 #include "common/regression/RegressionTechnique.h"
+#include "core/Cav.h"
 
 // The physical description of a reservoir: its volumes, its level-area-volume table and the
 // interpolator over that table.
@@ -25,4 +27,8 @@ struct ReservoirInfo {
   std::shared_ptr<RegressionTechnique> regressionTech;
   bool isolated = false;
   double maxRelease = 99999.0;  // m³/s, upper bound of any release
+
+  // Curves of workingCav already built for lookups, by their columns; each is checked against
+  // the table before use, so a table changed in any way is never read from here.
+  mutable std::map<std::vector<int>, std::shared_ptr<Cav>> preparedCurves;
 };

@@ -24,6 +24,9 @@ class HydrologicalBalance {
   // The curve of the reservoir's working table over the given columns ({2, 1} volume to area,
   // {2, 0} volume to level), with the reservoir's interpolator.
   static Cav makeCAV(const std::shared_ptr<Reservoir>& reservoir, const std::vector<int>& columns);
+  // The same curve, kept by the reservoir between lookups while its working table is unchanged.
+  // Lookups over it give what lookups over makeCAV's curve give.
+  static const Cav& curve(const std::shared_ptr<Reservoir>& reservoir, const std::vector<int>& columns);
   // The area at volume over a volume-to-area curve, km²; 0 for a volume within 0.0001 of 0.
   static double area(const Cav& cav, double volume);
   // The level at volume over a volume-to-level curve, m; 0 for a volume within 0.0001 of 0.

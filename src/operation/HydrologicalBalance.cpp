@@ -14,6 +14,19 @@
 
 namespace {
 
+// The given columns of every row of the reservoir's working table.
+std::vector<std::vector<double>> workingColumns(const ReservoirInfo& info,
+                                                const std::vector<int>& columns) {
+  std::vector<std::vector<double>> matrix;
+  matrix.reserve(info.workingCav.size());
+  for (const auto& row : info.workingCav) {
+    std::vector<double> picked;
+    for (int column : columns) picked.push_back(row.at(static_cast<std::size_t>(column)));
+    matrix.push_back(std::move(picked));
+  }
+  return matrix;
+}
+
 // Sums the kind of series over the enabled links, converting each non-zero flow to a volume.
 double sumVolume(const HydrologicalBalance& balance,
                  const std::vector<std::shared_ptr<Link>>& links, SerieType type,
@@ -32,14 +45,34 @@ double sumVolume(const HydrologicalBalance& balance,
 Cav HydrologicalBalance::makeCAV(const std::shared_ptr<Reservoir>& reservoir,
                                  const std::vector<int>& columns) {
   const ReservoirInfo& info = reservoir->getReservoirInfo();
-  std::vector<std::vector<double>> matrix;
-  matrix.reserve(info.workingCav.size());
-  for (const auto& row : info.workingCav) {
-    std::vector<double> picked;
-    for (int column : columns) picked.push_back(row.at(static_cast<std::size_t>(column)));
-    matrix.push_back(std::move(picked));
+  return Cav(info.regressionTech, workingColumns(info, columns));
+}
+
+namespace {
+
+bool sameRows(const Cav& curve, const std::vector<std::vector<double>>& table,
+              const std::vector<int>& columns) {
+  const auto& rows = curve.getMatrix();
+  if (rows.size() != table.size()) return false;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (std::size_t c = 0; c < columns.size(); ++c) {
+      if (rows[i][c] != table[i][static_cast<std::size_t>(columns[c])]) return false;
+    }
   }
-  return Cav(info.regressionTech, std::move(matrix));
+  return true;
+}
+
+}  // namespace
+
+const Cav& HydrologicalBalance::curve(const std::shared_ptr<Reservoir>& reservoir,
+                                      const std::vector<int>& columns) {
+  const ReservoirInfo& info = reservoir->getReservoirInfo();
+  std::shared_ptr<Cav>& kept = info.preparedCurves[columns];
+  if (!kept || !sameRows(*kept, info.workingCav, columns)) {
+    kept = std::make_shared<Cav>(info.regressionTech->copy(), workingColumns(info, columns));
+    kept->keepBetweenLookups();
+  }
+  return *kept;
 }
 
 double HydrologicalBalance::atVolume(const Cav& cav, double volume) {
@@ -54,7 +87,7 @@ double HydrologicalBalance::level(const Cav& cav, double volume) { return atVolu
 double HydrologicalBalance::balance(const std::shared_ptr<Reservoir>& reservoir, const Date& date,
                                     double volume, bool zeroContribution, double upstreamVolume,
                                     double downstreamVolume) const {
-  const double surface = area(makeCAV(reservoir, {ReservoirInfo::volume, ReservoirInfo::area}), volume);
+  const double surface = area(curve(reservoir, {ReservoirInfo::volume, ReservoirInfo::area}), volume);
   double precipitation = 0.0;
   double naturalFlow = 0.0;
   if (!zeroContribution) {

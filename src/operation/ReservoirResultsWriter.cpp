@@ -39,7 +39,8 @@ void ReservoirResultsWriter::write(const Date& date, unsigned int windowIndex,
   put(reservoir, SerieType::upstreamUncontrolledVolume, windowIndex, date, uncontrolledVolume);
   put(reservoir, SerieType::upstreamUncontrolledFlow, windowIndex, date, naturalFlow);
 
-  const Cav areaCurve = HydrologicalBalance::makeCAV(reservoir, {ReservoirInfo::volume, ReservoirInfo::area});
+  const Cav& areaCurve =
+      HydrologicalBalance::curve(reservoir, {ReservoirInfo::volume, ReservoirInfo::area});
   const double surface = HydrologicalBalance::area(areaCurve, initial);
   const double evaporated = HydrologicalBalance::volume(
       reservoir->getInputSerie(SerieType::evaporation)->getValue(date), surface);
@@ -53,7 +54,7 @@ void ReservoirResultsWriter::write(const Date& date, unsigned int windowIndex,
   put(reservoir, SerieType::area, windowIndex, date, surface);
   put(reservoir, SerieType::level, windowIndex, date,
       HydrologicalBalance::level(
-          HydrologicalBalance::makeCAV(reservoir, {ReservoirInfo::volume, ReservoirInfo::level}),
+          HydrologicalBalance::curve(reservoir, {ReservoirInfo::volume, ReservoirInfo::level}),
           initial));
 
   const double available =

@@ -71,6 +71,15 @@ TEST(ReservoirStorage, WorkingTableAndLookups) {
   EXPECT_NEAR(HydrologicalBalance::level(level, 2.0), 101.5, 1e-12);
   EXPECT_EQ(HydrologicalBalance::area(area, 0.0), 0.0);
   EXPECT_EQ(HydrologicalBalance::area(area, 0.00005), 0.0);
+  // The curve a reservoir keeps between lookups answers exactly as a freshly built one, and
+  // follows its table when the table changes.
+  for (double volume : {0.5, 1.0, 2.0, 4.5, 7.0, 12.0}) {
+    EXPECT_EQ(HydrologicalBalance::area(HydrologicalBalance::curve(reservoir, {2, 1}), volume),
+              HydrologicalBalance::area(HydrologicalBalance::makeCAV(reservoir, {2, 1}), volume));
+  }
+  reservoir->getReservoirInfo().workingCav[1][1] = 6.0;
+  EXPECT_NEAR(HydrologicalBalance::area(HydrologicalBalance::curve(reservoir, {2, 1}), 2.0), 4.0,
+              1e-12);
   EXPECT_THROW_TEXT(Cav(area.getRegressionTechnique(), {{1, 2}}), std::invalid_argument,
                     "The matrix must have at least two rows and have exactly two columns.");
 }

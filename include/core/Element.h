@@ -50,6 +50,9 @@ class Element {
 
   // Sets the interval of every input series and of every result series of every window.
   void setIntervalSeries(const Interval& interval);
+  // Sets the interval of the result series of one window. Throws std::out_of_range
+  // "Element setOutputInterval: invalid windowIndex" for a window without results.
+  void setOutputInterval(unsigned int windowIndex, const Interval& interval);
 
   // A new element of the same type with the same name, ids, state and a copy of the inputs;
   // results and links are not copied.

@@ -92,6 +92,9 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
     labelElementsSelects = value;
   }
 
+  // The intervals of the windows of a run with the present method (the whole interval for a
+  // continuous run).
+  std::vector<Interval> calcVectorOfIntervals() const;
   // True when every enabled element has results.
   bool hasResults() const;
   bool hasBidirectionalLink() const;

@@ -32,6 +32,13 @@ class ExecutionMethod {
   // A copy of the concrete method with the same settings.
   std::shared_ptr<ExecutionMethod> copy() const;
 
+  // Lists the candidate windows of interval: one starting in startMonth of each year whose
+  // window of windowSize periods ends within the interval, each kept or not by checked.
+  void initializeYearsWindow(const Interval& interval, unsigned int startMonth, bool checked);
+  // Keeps or drops a candidate window. Throws std::out_of_range
+  // "ExecutionMethod::setYearCheckByIndex: invalid index".
+  void setYearCheckByIndex(unsigned int index, bool checked);
+
   // Each enabled drain demands 99999.0 m³/s on every period of interval, so it takes whatever
   // reaches it.
   static void configureDrainDemands(const Elements& drains, const Interval& interval);
@@ -46,7 +53,9 @@ class ExecutionMethod {
 
   const Enum<ExecutionType>& getExecutionType() const { return executionType; }
   unsigned int getWindowSize() const { return windowSize; }
-  void setWindowSize(unsigned int value) { windowSize = value; }
+  // Throws std::invalid_argument "ExecutionMethod::setWindowSize(): the window size must be at
+  // least 1" for 0.
+  void setWindowSize(unsigned int value);
   bool getZeroContribution() const { return zeroContribution; }
   void setZeroContribution(bool value) { zeroContribution = value; }
   const std::vector<std::pair<Date, bool>>& getYearsDate() const { return yearsDate; }

@@ -11,4 +11,6 @@ class ExecutionMethodFactoryByType {
  public:
   static std::shared_ptr<ExecutionMethod> make(ExecutionType type, const Interval& interval);
   static std::shared_ptr<ExecutionMethod> makeContinuos(const Interval& interval);
+  // A windowed method whose candidate windows start in the interval's first month.
+  static std::shared_ptr<ExecutionMethod> makeWindowed(const Interval& interval);
 };

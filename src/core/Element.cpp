@@ -51,6 +51,15 @@ void Element::setIntervalSeries(const Interval& interval) {
   }
 }
 
+void Element::setOutputInterval(unsigned int windowIndex, const Interval& interval) {
+  if (windowIndex >= outputSeries.size()) {
+    throw std::out_of_range("Element setOutputInterval: invalid windowIndex");
+  }
+  for (const auto& serie : outputSeries[windowIndex]->makeVectorOfSeries()) {
+    serie->setInterval(interval);
+  }
+}
+
 std::shared_ptr<Element> Element::copy() const {
   std::shared_ptr<Element> element = ElementFactory::make(elementType.getType());
   element->name = name;

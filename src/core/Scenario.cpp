@@ -10,6 +10,7 @@
 #include "core/ReservoirRuleSettings.h"
 #include "core/Vocabulary.h"
 #include "operation/ExecutionMethod.h"
+#include "operation/IntervalWindowed.h"
 #include "operation/OperationSystem.h"
 
 Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned int id,
@@ -195,6 +196,12 @@ void Scenario::setInterval(const Interval& value) {
 
 void Scenario::setExecutionMethod(const std::shared_ptr<ExecutionMethod>& method) {
   executionMethod = method;
+}
+
+std::vector<Interval> Scenario::calcVectorOfIntervals() const {
+  return IntervalWindowed::makeIntervals(interval, executionMethod->getYearsDate(),
+                                         executionMethod->getWindowSize(),
+                                         executionMethod->getExecutionType().getType());
 }
 
 bool Scenario::hasResults() const {

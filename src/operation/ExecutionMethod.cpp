@@ -2,9 +2,11 @@
 
 #include <stdexcept>
 
+#include "common/Calendar.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/Vocabulary.h"
+#include "operation/IntervalWindowed.h"
 
 namespace {
 
@@ -21,6 +23,36 @@ std::shared_ptr<ExecutionMethod> ExecutionMethod::copy() const {
   method->yearsDate = yearsDate;
   method->initialMonth = initialMonth;
   return method;
+}
+
+void ExecutionMethod::initializeYearsWindow(const Interval& interval, unsigned int startMonth,
+                                            bool checked) {
+  initialMonth = static_cast<unsigned char>(startMonth);
+  yearsDate.clear();
+  Date start = interval.getBegin();
+  while (start.getMonth() != startMonth && start <= interval.getEnd()) {
+    start += Calendar::incInterval(start, interval);
+  }
+  while (start <= interval.getEnd()) {
+    if (IntervalWindowed::stepForward(start, windowSize - 1, interval) > interval.getEnd()) break;
+    yearsDate.emplace_back(start, checked);
+    start = IntervalWindowed::stepForward(start, 12, interval);
+  }
+}
+
+void ExecutionMethod::setWindowSize(unsigned int value) {
+  if (value == 0) {
+    throw std::invalid_argument(
+        "ExecutionMethod::setWindowSize(): the window size must be at least 1");
+  }
+  windowSize = value;
+}
+
+void ExecutionMethod::setYearCheckByIndex(unsigned int index, bool checked) {
+  if (index >= yearsDate.size()) {
+    throw std::out_of_range("ExecutionMethod::setYearCheckByIndex: invalid index");
+  }
+  yearsDate[index].second = checked;
 }
 
 void ExecutionMethod::configureDrainDemands(const Elements& drains, const Interval& interval) {

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "operation/ExecutionContinuous.h"
+#include "operation/ExecutionWindowed.h"
 
 std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::make(ExecutionType type,
                                                                     const Interval& interval) {
@@ -12,6 +13,7 @@ std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::make(ExecutionTyp
                         std::function<std::shared_ptr<ExecutionMethod>(const Interval&)>>
       makers = {
           {ExecutionType::continuous, makeContinuos},
+          {ExecutionType::windowed, makeWindowed},
       };
   auto it = makers.find(type);
   if (it == makers.end()) {
@@ -22,4 +24,12 @@ std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::make(ExecutionTyp
 
 std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::makeContinuos(const Interval&) {
   return std::make_shared<ExecutionContinuous>();
+}
+
+std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::makeWindowed(const Interval& interval) {
+  auto method = std::make_shared<ExecutionWindowed>();
+  if (interval.period() >= method->getWindowSize()) {
+    method->initializeYearsWindow(interval, interval.getBegin().getMonth(), true);
+  }
+  return method;
 }

@@ -59,10 +59,10 @@ class GeneratedSystem {
     return created;
   }
 
-  // A node whose single way out takes all it receives.
+  // A node whose single way out takes all it receives: one line, shared in full.
   void sendAll(const std::shared_ptr<Node>& node) {
     for (const auto& out : node->getDownstreamLinks()) {
-      net.allocation(node, {{id(node), id(out)}, {0, 0}, {100, 100}});
+      net.allocation(node, {{id(node), id(out)}, {100, 100}});
     }
   }
 

@@ -4,6 +4,7 @@
 // each year, the storage at the end of December, Sobradinho's spill and the canal's supply.
 //
 // Usage: kova-example [data folder]   (defaults to the example data of the source tree)
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <map>
@@ -14,6 +15,7 @@
 
 #include "common/PeriodWalker.h"
 #include "common/StringUtils.h"
+#include "checks/SceneryCheck.h"
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
 #include "core/Reservoir.h"
@@ -83,10 +85,12 @@ std::shared_ptr<Reservoir> addReservoir(Scenario& scenario, const std::string& f
   for (const auto& row : readCsv(evaporationFile)) {
     netEvaporation[std::stoul(row[0])] = std::stod(row[evaporation]);
   }
+  // Net evaporation below zero is a net gain of the lake: it enters as rain.
   PeriodWalker::forEach(scenario.getInterval(), [&](const Date& date) {
-    reservoir->getInputSerie(SerieType::evaporation)->setValue(date, netEvaporation.at(date.getMonth()));
+    const double net = netEvaporation.at(date.getMonth());
+    reservoir->getInputSerie(SerieType::evaporation)->setValue(date, std::max(net, 0.0));
+    reservoir->getInputSerie(SerieType::precipitation)->setValue(date, std::max(-net, 0.0));
   });
-  reservoir->getInputSerie(SerieType::precipitation)->fill(0.0);
 
   auto rule = std::make_shared<ConstReleaseRule>();
   rule->setRelease(site.release);
@@ -105,16 +109,15 @@ std::shared_ptr<Link> addLink(Scenario& scenario, const std::shared_ptr<Node>& u
   return link;
 }
 
-// The node's release goes out by the links in fixed flows up to the given total, and in the
-// same proportions beyond it (m³/s).
+// The node's release goes out by the links in the proportions of the given flows (m³/s): one
+// line of the allocation matrix, whose total is their sum.
 void share(Scenario& scenario, const std::shared_ptr<Node>& node,
            const std::vector<std::pair<std::shared_ptr<Link>, double>>& flows) {
-  std::vector<std::vector<double>> matrix = {{double(node->getId())}, {0.0}, {0.0}};
+  std::vector<std::vector<double>> matrix = {{double(node->getId())}, {0.0}};
   for (const auto& [link, flow] : flows) {
     matrix[0].push_back(link->getId());
-    matrix[1].push_back(0.0);
-    matrix[2].push_back(flow);
-    matrix[2][0] += flow;
+    matrix[1].push_back(flow);
+    matrix[1][0] += flow;
   }
   std::static_pointer_cast<RuleSettings>(scenario.getSettingsManager().getSettings(node->getId()))
       ->setAllocationByMatrixOfDouble(matrix);
@@ -152,7 +155,12 @@ int main(int argc, char** argv) {
     manager.addScenery(0, scenario);
     manager.executeScenery(0, nullptr, nullptr);
     std::printf("%s\n\n", scenario->getSceneryStatus().getName().c_str());
-    if (scenario->getSceneryStatus().getType() != SceneryStatus::success) return 1;
+    if (scenario->getSceneryStatus().getType() != SceneryStatus::success) {
+      for (const auto& finding : scenario->getSceneryCheck()->getAllErrors()) {
+        std::printf("%s: %s\n", finding.elementName.c_str(), finding.message.c_str());
+      }
+      return 1;
+    }
 
     std::printf("%-6s %18s %18s %20s %18s\n", "ano", "Três Marias (hm³)", "Sobradinho (hm³)",
                 "vertido médio (m³/s)", "transposição (%)");

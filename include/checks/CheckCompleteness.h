@@ -11,6 +11,10 @@ class CheckCompleteness {
   struct ErrorStruct {
     std::string elementName;
     std::string message;
+
+    bool operator==(const ErrorStruct& other) const {
+      return elementName == other.elementName && message == other.message;
+    }
   };
 
   virtual ~CheckCompleteness() = default;
@@ -20,12 +24,13 @@ class CheckCompleteness {
   bool isOk() const { return errors.empty(); }
   std::size_t getNumErrors() const { return errors.size(); }
   const std::vector<ErrorStruct>& getErrors() const { return errors; }
-  void clean() { errors.clear(); }
 
  protected:
   void addError(std::string elementName, std::string message) {
     errors.push_back({std::move(elementName), std::move(message)});
   }
+  void clearErrors() { errors.clear(); }
+  std::vector<ErrorStruct>& mutableErrors() { return errors; }
 
  private:
   std::vector<ErrorStruct> errors;

@@ -27,4 +27,5 @@ class RuleScenario : public Scenario {
  protected:
   std::shared_ptr<OperationSystem> getOperationSystem() override;
   std::shared_ptr<Scenario> copySpecific() const override;
+  std::shared_ptr<SceneryCheck> makeSceneryCheck() override;
 };

@@ -24,6 +24,11 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
  public:
   using Elements = std::vector<std::shared_ptr<Element>>;
   using Progress = std::function<bool(long, long)>;
+  // A background layer: a shape file's name and its full path.
+  struct PathInfo {
+    std::string filename;
+    std::string fullpath;
+  };
 
   Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned int id,
            const Interval& interval, const std::string& name);
@@ -56,7 +61,8 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   void createResults();
   void clearResultSeries();
   virtual void clearAllResults();
-  // 1 without a check object, 0 when the check passes, 2 when it fails.
+  // Checks the scenario with the check of its kind (made on first use): 1 without a check
+  // object, 0 when the check passes, 2 when it fails.
   int executeSceneryCheck();
 
   const std::shared_ptr<Element>& getElement(unsigned int id) const;
@@ -91,6 +97,14 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   void setLabelElementsSelects(const std::map<std::string, std::vector<int>>& value) {
     labelElementsSelects = value;
   }
+  // The shape files shown behind the network, in the order they were added.
+  const std::vector<PathInfo>& getVectorOfPathInfo() const { return vectorOfPathInfo; }
+  void addPathInfo(const std::string& filename, const std::string& fullpath) {
+    vectorOfPathInfo.push_back({filename, fullpath});
+  }
+  // The cost of a deficit of each demand type for the pumping study, R$.
+  const std::vector<double>& getPumpingCostsConfiguration() const { return pumpingCosts; }
+  void setPumpingCostsConfiguration(const std::vector<double>& value) { pumpingCosts = value; }
 
   // The intervals of the windows of a run with the present method (the whole interval for a
   // continuous run).
@@ -119,8 +133,13 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   virtual std::shared_ptr<OperationSystem> getOperationSystem() = 0;
   // A new, empty scenario of the same class with the same settings of its own kind.
   virtual std::shared_ptr<Scenario> copySpecific() const = 0;
+  // The check of this kind of scenario, or null for a kind without one.
+  virtual std::shared_ptr<SceneryCheck> makeSceneryCheck() { return nullptr; }
   // Gives the scenario's interval to every element's series.
   virtual void setSeriesIntervalsElements();
+  // Hands the execution method's zeroContribution to whatever decides the reservoirs' releases
+  // before a run: by default their release rules.
+  virtual void configureZeroContribution(const Elements& reservoirs);
   void setSceneryStatus(SceneryStatus status);
 
  private:
@@ -138,6 +157,8 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   SettingsManager settingsManager;
   std::shared_ptr<SceneryCheck> sceneryCheck;
   std::map<std::string, std::vector<int>> labelElementsSelects;
+  std::vector<double> pumpingCosts;  // R$ per demand type
+  std::vector<PathInfo> vectorOfPathInfo;
   unsigned int epsgCode = 4674;
   Enum<SceneryStatus> sceneryStatus;
   std::shared_ptr<OperationSystem> currentOperationSystem;

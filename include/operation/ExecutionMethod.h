@@ -69,7 +69,7 @@ class ExecutionMethod {
 
  private:
   Enum<ExecutionType> executionType;
-  unsigned int windowSize = 12;  // periods of a window
+  unsigned int windowSize = 1;  // periods of a window
   bool zeroContribution = false;
   std::vector<std::pair<Date, bool>> yearsDate;  // start of each window, and whether it runs
   unsigned char initialMonth = 1;                // month in which windows start

@@ -1,5 +1,6 @@
 #include "core/RuleScenario.h"
 
+#include "checks/SceneryCheckFactory.h"
 #include "core/Link.h"
 #include "core/Node.h"
 #include "core/RuleSettings.h"
@@ -76,4 +77,8 @@ std::shared_ptr<OperationSystem> RuleScenario::getOperationSystem() {
 std::shared_ptr<Scenario> RuleScenario::copySpecific() const {
   return std::make_shared<RuleScenario>(getExecutionMethod()->copy(), getId(), getInterval(),
                                         getName());
+}
+
+std::shared_ptr<SceneryCheck> RuleScenario::makeSceneryCheck() {
+  return SceneryCheckFactory::makeRuleCheck(weak_from_this());
 }

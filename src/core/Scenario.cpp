@@ -96,8 +96,12 @@ void Scenario::preRun() {
       ElementsFilter::filterByType(elements, {ElementType::drain}), interval);
   const Elements reservoirs = ElementsFilter::filterByType(elements, ElementSets::reservoir());
   ExecutionMethod::configureReservoirsCav(reservoirs);
-  executionMethod->configureZeroContribution(settingsManager, reservoirs);
+  configureZeroContribution(reservoirs);
   ExecutionMethod::backupReservoirsLinks(reservoirs);
+}
+
+void Scenario::configureZeroContribution(const Elements& reservoirs) {
+  executionMethod->configureZeroContribution(settingsManager, reservoirs);
 }
 
 void Scenario::createResults() {
@@ -111,6 +115,7 @@ void Scenario::clearResultSeries() {
 void Scenario::clearAllResults() { clearResultSeries(); }
 
 int Scenario::executeSceneryCheck() {
+  if (!sceneryCheck) sceneryCheck = makeSceneryCheck();
   if (!sceneryCheck) return 1;
   sceneryCheck->check();
   return sceneryCheck->isOk() ? 0 : 2;
@@ -164,6 +169,8 @@ void Scenario::copyNetworkInto(Scenario& target) const {
   target.settingsManager = settingsManager;
   target.sceneryCheck = nullptr;
   target.labelElementsSelects = labelElementsSelects;
+  target.pumpingCosts = pumpingCosts;
+  target.vectorOfPathInfo = vectorOfPathInfo;
   target.epsgCode = epsgCode;
   target.sceneryStatus = sceneryStatus;
 }

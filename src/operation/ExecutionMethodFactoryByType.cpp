@@ -27,7 +27,9 @@ std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::makeContinuos(con
 }
 
 std::shared_ptr<ExecutionMethod> ExecutionMethodFactoryByType::makeWindowed(const Interval& interval) {
+  // A year from the first month is the window users start from.
   auto method = std::make_shared<ExecutionWindowed>();
+  method->setWindowSize(12);
   if (interval.period() >= method->getWindowSize()) {
     method->initializeYearsWindow(interval, interval.getBegin().getMonth(), true);
   }

@@ -12,9 +12,10 @@ namespace {
 
 constexpr double kJanuary = 31 * 0.0864;  // hm³ per m³/s over January
 
-// Reservoirs A and B joined by a bidirectional link A -> B that inverts while A is at or below
-// 5 hm³ and B above 5 hm³. Each reservoir also drains to its own outlet. B releases 3 m³/s by
-// rule, into the inverted link only; A releases nothing. No inflow and no evaporation.
+// Reservoirs A and B joined by a bidirectional canal A -> B that inverts while A is at or below
+// 5 hm³ and B above 5 hm³. Each reservoir also drains to its own outlet by its river. B releases
+// 3 m³/s by rule, half into its river and, when the canal is inverted, half into the canal by
+// the canal's own row; A releases nothing. No inflow and no evaporation.
 struct ReservoirPair {
   NetworkBuilder net{Interval(Date(2001, 1, 1), Date(2001, 3, 1), Vocabulary::of(Periodicity::monthly))};
   std::shared_ptr<Reservoir> a, b;
@@ -23,16 +24,16 @@ struct ReservoirPair {
   ReservoirPair() {
     a = reservoir(4.0);
     b = reservoir(10.0);
-    pair = net.link(a, b);
+    pair = net.link(a, b, 1000.0, ElementType::artificialLink);
     outA = net.link(a, net.node(ElementType::drain));
     outB = net.link(b, net.node(ElementType::drain));
     pair->setIsBidirectional(true);
     pair->configureSenseInfo({{5.0, 15.0}, {5.0, 15.0}, {{0, 1}, {0, 0}}});
     const auto id = [](const std::shared_ptr<Element>& e) { return double(e->getId()); };
-    net.allocation(a, {{id(a), id(pair), id(outA)}, {0, 0, 0}, {10, 10, 0}});
-    net.allocation(b, {{id(b), id(outB)}, {0, 0}, {10, 0}});
+    net.allocation(a, {{id(a), id(pair), id(outA)}, {10, 10, 0}});
+    net.allocation(b, {{id(b), id(outB)}, {2, 1}, {10, 5}});
     Scenario::getSettings<LinkRuleSettings>(pair, net.scenario->getSettingsManager())
-        ->setValues({0, 10});
+        ->setValues({1, 5});
     auto rule = std::make_shared<ConstReleaseRule>();
     rule->setRelease(3.0);
     Scenario::getSettings<ReservoirRuleSettings>(b, net.scenario->getSettingsManager())->setRule(rule);
@@ -42,6 +43,7 @@ struct ReservoirPair {
     auto r = std::static_pointer_cast<Reservoir>(net.node(ElementType::reservoir));
     ReservoirInfo& info = r->getReservoirInfo();
     info.cav = {{100, 0, 0}, {101, 2, 1}, {102, 5, 3}, {103, 9, 7}, {104, 14, 15}};
+    info.minVol = 1.0;
     info.maxVol = 15.0;
     info.initVol = initVol;
     for (SerieType type : {SerieType::naturalIncrementalFlow, SerieType::evaporation,
@@ -80,13 +82,14 @@ TEST(Bidirectional, LinkInvertsByStorageAndTheNetworkIsRestored) {
   ReservoirPair p;
   ASSERT_TRUE(p.net.scenario->run(nullptr));
   const Date jan(2001, 1, 1), feb(2001, 2, 1);
-  // January: A holds 4 (low band), B 10 (high band): the link runs B -> A and carries B's 3 m³/s
-  // through its own row of values.
+  // January: A holds 4 (low band), B 10 (high band): the canal runs B -> A and carries half of
+  // B's 3 m³/s by its own row; the river takes the other half. Between the lines 2 and 10 each
+  // takes (5 * 1 + 1 * 7) / 8 = 1.5.
   EXPECT_EQ(p.out(p.pair, SerieType::linkSense, jan), 1.0);
-  EXPECT_NEAR(p.out(p.pair, SerieType::inflow, jan), 3.0, 1e-9);
+  EXPECT_NEAR(p.out(p.pair, SerieType::inflow, jan), 1.5, 1e-9);
+  EXPECT_NEAR(p.out(p.outB, SerieType::inflow, jan), 1.5, 1e-9);
   EXPECT_NEAR(p.out(p.b, SerieType::finalVolume, jan), 10.0 - 3 * kJanuary, 1e-9);
-  EXPECT_NEAR(p.out(p.a, SerieType::finalVolume, jan), 4.0 + 3 * kJanuary, 1e-9);
-  EXPECT_EQ(p.out(p.outB, SerieType::inflow, jan), 0.0);
+  EXPECT_NEAR(p.out(p.a, SerieType::finalVolume, jan), 4.0 + 1.5 * kJanuary, 1e-9);
   // February: A is high and B low, the link keeps its sense and A releases nothing into it.
   EXPECT_EQ(p.out(p.pair, SerieType::linkSense, feb), 0.0);
   EXPECT_EQ(p.out(p.pair, SerieType::inflow, feb), 0.0);
@@ -103,7 +106,7 @@ TEST(Bidirectional, InversionThatClosesALoopStopsTheRun) {
   ReservoirPair p;
   // A -> C -> B: once the pair runs B -> A, B -> A -> C -> B is a loop.
   auto c = p.net.node(ElementType::junction);
-  p.net.link(p.a, c);
+  p.net.link(p.a, c, 1000.0, ElementType::artificialLink);
   p.net.link(c, p.b);
   EXPECT_FALSE(p.net.scenario->run(nullptr));
   EXPECT_EQ(p.net.scenario->getSceneryStatus().getName(),
@@ -121,5 +124,5 @@ TEST(Bidirectional, OwnRowsFollowTheReservoirMatrix) {
   settings->addAllocationLine();  // B now has three lines
   settings->updateBidirectionalUpstreamLinks(p.net.scenario);
   const auto& own = Scenario::getSettings<LinkRuleSettings>(p.pair, p.net.scenario->getSettingsManager());
-  EXPECT_EQ(own->getValues(), (std::vector<double>{0, 10, 0}));
+  EXPECT_EQ(own->getValues(), (std::vector<double>{1, 5, 0}));
 }

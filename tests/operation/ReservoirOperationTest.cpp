@@ -38,7 +38,7 @@ struct ReservoirToDrain {
     reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->fill(8.0);
     reservoir->getInputSerie(SerieType::precipitation)->fill(50.0);
     reservoir->getInputSerie(SerieType::evaporation)->fill(100.0);
-    net.allocation(reservoir, {{double(reservoir->getId()), double(river->getId())}, {0, 0}, {100, 100}});
+    net.allocation(reservoir, {{double(reservoir->getId()), double(river->getId())}, {100, 100}});
     auto rule = std::make_shared<ConstReleaseRule>();
     rule->setRelease(5.0);
     Scenario::getSettings<ReservoirRuleSettings>(reservoir, net.scenario->getSettingsManager())

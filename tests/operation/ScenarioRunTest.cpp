@@ -203,16 +203,19 @@ TEST(ScenarioRunSpine, OnePeriodCallsBackWithAHundredPercent) {
   EXPECT_EQ(b->getOutputSerie(SerieType::inflow, 0)->getValue(Date(2001, 6, 1)), 0.0);
 }
 
-TEST(ScenarioRunSpine, BidirectionalLoopStopsTheRun) {
+TEST(ScenarioRunSpine, AStoredLoopIsRefusedBeforeTheRun) {
   NetworkBuilder net(NetworkBuilder::monthly(2000, 2000));
-  auto a = net.node(ElementType::reservoir);
-  auto b = net.node(ElementType::reservoir);
+  auto a = net.node(ElementType::junction);
+  auto b = net.node(ElementType::junction);
   auto c = net.node(ElementType::junction);
-  net.link(a, b)->setIsBidirectional(true);
+  net.link(a, b);
   net.link(b, c);
   net.link(c, a);
   EXPECT_FALSE(net.scenario->run(nullptr));
-  EXPECT_EQ(net.scenario->getSceneryStatus().getId(), 3);
+  EXPECT_EQ(net.scenario->getSceneryStatus().getId(), 0);
+  const auto findings = net.scenario->getSceneryCheck()->getAllErrors();
+  ASSERT_EQ(findings.size(), 1u);
+  EXPECT_EQ(findings[0].message, "Existe um loop na rede");
   EXPECT_FALSE(a->hasResults());
 }
 

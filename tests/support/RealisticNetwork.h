@@ -107,7 +107,7 @@ class RealisticNetwork {
     single(j1, link(j1, sobradinho, 2.0));
     auto toItaparica = link(sobradinho, itaparica, 0.5);
     auto toSupply = link(sobradinho, supply, 1.0, ElementType::artificialLink, 30.0);
-    split(sobradinho, {0, 1000, 3000}, {{toItaparica, {0, 970, 2900}}, {toSupply, {0, 30, 100}}});
+    split(sobradinho, {1000, 3000}, {{toItaparica, {970, 2900}}, {toSupply, {30, 100}}});
     single(itaparica, link(itaparica, j2, 0.0));
     returning(supply, link(supply, j2, 0.0), 10.0);
     auto toIrrigation = link(j2, irrigation, 3.0, ElementType::artificialLink, 60.0);
@@ -124,7 +124,7 @@ class RealisticNetwork {
     single(middle, link(middle, lower, 1.0));
     auto lowerToJ1 = link(lower, j1, 1.0);
     auto toIndustry = link(lower, industry, 0.0, ElementType::artificialLink, 8.0);
-    split(lower, {0, 100, 1000}, {{lowerToJ1, {0, 95, 950}}, {toIndustry, {0, 5, 50}}});
+    split(lower, {100, 1000}, {{lowerToJ1, {95, 950}}, {toIndustry, {5, 50}}});
     returning(industry, link(industry, j1, 0.0), 30.0);
 
     giveRules(retiro, tresMarias, queimado, sobradinho, itaparica, headA, headB, middle, lower);
@@ -177,9 +177,10 @@ class RealisticNetwork {
     return created;
   }
 
-  // A node with one way out passes on all it has, by a matrix of three lines.
+  // A node with one way out passes on all it has, by a matrix of two lines (below the first,
+  // the first line's proportions apply).
   void single(const std::shared_ptr<Node>& node, const std::shared_ptr<Link>& out) {
-    split(node, {0, 100, 100000}, {{out, {0, 100, 100000}}});
+    split(node, {100, 100000}, {{out, {100, 100000}}});
   }
 
   void split(const std::shared_ptr<Node>& node, const std::vector<double>& totals,

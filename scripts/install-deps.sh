@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs every Debian package that building and testing KOVA needs.
 # This is the only place that knows package names; it does nothing when all are present.
+# With --fuzz it also installs clang and its runtime, which the fuzz target needs.
 set -euo pipefail
 
 packages=(
@@ -12,6 +13,13 @@ packages=(
   libboost-date-time-dev libboost-nowide-dev libboost-filesystem-dev
   libminizip-dev libshp-dev
 )
+
+for argument in "$@"; do
+  case "$argument" in
+    --fuzz) packages+=(clang libclang-rt-14-dev) ;;
+    *) echo "usage: $0 [--fuzz]" >&2; exit 2 ;;
+  esac
+done
 
 missing=()
 for p in "${packages[@]}"; do

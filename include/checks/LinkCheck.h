@@ -15,6 +15,9 @@ class LinkCheck : public ElementCheck {
  private:
   void checkUpstream();
   void checkDownstream();
+  void checkNumberOfLinesLinkAddonPumping();
+  void checkLinkAddonPumpingFirstLine();
+  void checkLinkAddonPumpingLines();
   void checkNaturalBidirectionalLink();
   void checkLinkLossSerie();
 };

@@ -20,6 +20,23 @@ class CoreServiceManager {
   using ScenarioPtr = std::shared_ptr<Scenario>;
   using ElementPtr = std::shared_ptr<Element>;
 
+  // The forms below do what their ...NoDatabase twins do and keep the open project database in
+  // step: an added element gets its row, input series and curve (and its databaseId), a removed
+  // one loses its rows. They throw as their twins, DatabaseException on an SQLite failure and
+  // std::logic_error without an open database.
+  static void addElement(const ScenarioPtr& scenario, const ElementPtr& element, bool rename);
+  static void addElement(const ScenarioPtr& scenario, const ElementPtr& element, unsigned int id,
+                         bool rename);
+  static ElementPtr createElement(const ScenarioPtr& scenario, ElementType type, bool rename);
+  static std::shared_ptr<Node> createNode(const ScenarioPtr& scenario, ElementType type,
+                                          const Point2D& position, bool rename);
+  static std::shared_ptr<Link> createLink(const ScenarioPtr& scenario, ElementType type,
+                                          const std::shared_ptr<Node>& upstream,
+                                          const std::shared_ptr<Node>& downstream, bool rename);
+  static void deleteElement(const ScenarioPtr& scenario, const ElementPtr& element);
+  static std::shared_ptr<Link> changeLinkType(const std::shared_ptr<Link>& link, ElementType type,
+                                              const ScenarioPtr& scenario);
+
   // Adds element under the scenario's next free id (renamed "<type name><id>" when rename is
   // true), then completes it in the scenario.
   static void addElementNoDatabase(const ScenarioPtr& scenario, const ElementPtr& element,
@@ -82,6 +99,11 @@ class CoreServiceManager {
   using AddStep = std::function<void(const ScenarioPtr&, const ElementPtr&, unsigned int)>;
 
   static void removeNoDatabase(const ScenarioPtr& scenario, const ElementPtr& element);
+  static void removeWithDatabase(const ScenarioPtr& scenario, const ElementPtr& element);
+  static void addKeepingName(const ScenarioPtr& scenario, const ElementPtr& element,
+                             unsigned int id);
+  // Gives the element just added to scenario its rows in the open database.
+  static void insertInDatabase(const ScenarioPtr& scenario, const ElementPtr& element);
   static void addKeepingNameNoDatabase(const ScenarioPtr& scenario, const ElementPtr& element,
                                        unsigned int id);
 

@@ -146,6 +146,15 @@ enum class SceneryStatus : int32_t {
   bidirectionalLoop = 3,
 };
 
+// How a priority scenario takes its goals from the water available: not at all, by one state of
+// the whole system, by zones of each reservoir, or by zones of each reservoir for each month.
+enum class HydrologicalStateType : int32_t {
+  none = 0,
+  standard = 1,
+  perReservoir = 2,
+  perReservoirMonthly = 3,
+};
+
 enum class ContentType : int32_t { intType = 0, doubleType = 1, stringType = 2 };
 
 enum class RegressionType : int32_t { cubicSpline = 0 };

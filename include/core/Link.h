@@ -61,6 +61,18 @@ class Link : public Element {
 class NaturalLink : public Link {
  public:
   NaturalLink() : Link(ElementType::naturalLink) {}
+
+  // Whether the reach gathers lateral inflow along its course; kept with the project.
+  bool getLateralContribution() const { return lateralContribution; }
+  void setLateralContribution(bool value) { lateralContribution = value; }
+  std::shared_ptr<Element> copy() const override {
+    std::shared_ptr<Element> element = Link::copy();
+    std::static_pointer_cast<NaturalLink>(element)->lateralContribution = lateralContribution;
+    return element;
+  }
+
+ private:
+  bool lateralContribution = false;
 };
 
 // A canal, pipe or pumping line.

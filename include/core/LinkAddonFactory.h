@@ -10,4 +10,6 @@ class LinkAddonFactory {
  public:
   static std::shared_ptr<LinkAddon> make(LinkAddonType type);
   static std::shared_ptr<LinkAddon> makeLinkAddonNone();
+  static std::shared_ptr<LinkAddon> makeLinkAddonPropagation();
+  static std::shared_ptr<LinkAddon> makeLinkAddonPumping();
 };

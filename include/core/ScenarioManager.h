@@ -8,6 +8,10 @@
 #include "common/Interval.h"
 #include "core/Scenario.h"
 
+namespace SQLite {
+class Database;
+}
+
 // The process-wide owner of the open project's scenarios, by index, one of them current. It has
 // no lock: one caller drives it at a time.
 class ScenarioManager {
@@ -48,21 +52,33 @@ class ScenarioManager {
   // Stores scenario under index; the only scenario becomes current.
   void addScenery(unsigned int index, const std::shared_ptr<Scenario>& scenario);
   // Removes the current scenario, renumbers those after it and makes a neighbour current; does
-  // nothing without scenarios. With fromDatabase the scenario's stored data goes too, which
-  // needs the project database: until that is open it throws std::logic_error
-  // "ScenarioManager::deleteCurrentScenery(): the project database is not open".
+  // nothing without scenarios. With fromDatabase its rows leave the open project database first
+  // (DatabaseException on failure; std::logic_error "ScenarioManager::deleteCurrentScenery(): the
+  // project database is not open" without one; nothing changes then).
   void deleteCurrentScenery(bool fromDatabase);
   // Forgets every scenario and restarts the counters.
   void clear();
 
-  // Runs the scenario at index and answers whether it finished. Throws std::invalid_argument
-  // "ScenarioManager::executeScenery: scenery's index is invalid" for an absent index.
+  // Runs the scenario at index and answers whether it finished; a finished run is written to the
+  // open project database when databaseProgress is set. Throws std::invalid_argument
+  // "ScenarioManager::executeScenery: scenery's index is invalid" for an absent index, and as
+  // updateSceneryResultsInDatabase.
   bool executeScenery(int index, const Progress& progress, const Progress& databaseProgress);
+  // Writes the results of the enabled elements of scenario, every window, as one run (one time
+  // stamp and hash) in one transaction, see DatabaseUpdate::updateOutputSerie. progress steps
+  // once per series. Throws KOVACoreProgressBar::ProgressCancelException when progress answers
+  // false and DatabaseException on an SQLite failure, nothing written then.
+  static void updateSceneryResultsInDatabase(const std::shared_ptr<Scenario>& scenario,
+                                             SQLite::Database& storage, const Progress& progress);
   // The steps of writing the results of elements to the database, for a progress bar: one per
   // result series of each enabled element in each of the first numberOfWindows windows (a window
   // an element has no results for counts nothing).
   static long getTotalOfResultsInDatabaseProgressBar(unsigned int numberOfWindows,
                                                      const Scenario::Elements& elements);
+
+  // The id a new scenario of the project takes: one above the largest loaded, 1 at first.
+  unsigned int getNextScenarioId() const { return nextScenarioId; }
+  void setNextScenarioId(unsigned int value) { nextScenarioId = value; }
 
   // The id that makeCountVirtualElementId() gives next.
   void setCountVirtualElementId(unsigned int value) { countVirtualElementId = value; }
@@ -74,6 +90,7 @@ class ScenarioManager {
 
   unsigned int numberOfSceneries = 0;
   unsigned int countVirtualElementId = 0;
+  unsigned int nextScenarioId = 1;
   std::map<unsigned int, std::shared_ptr<Scenario>> sceneries;
   std::shared_ptr<Scenario> currentScenario;
 };

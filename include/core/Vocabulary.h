@@ -26,6 +26,8 @@ class Vocabulary {
   static const EnumTable<EnumLinkAddonType, LinkAddonType>& linkAddonTypes();
   static const EnumTable<Enum<Sense>, Sense>& senses();
   static const EnumTable<Enum<SceneryStatus>, SceneryStatus>& sceneryStatuses();
+  static const EnumTable<Enum<HydrologicalStateType>, HydrologicalStateType>&
+  hydrologicalStateTypes();
 
   // The unit with which a series of this kind is created.
   static Unit unitOf(SerieType type);
@@ -52,4 +54,5 @@ class Vocabulary {
   static const EnumLinkAddonType& of(LinkAddonType type);
   static const Enum<Sense>& of(Sense type);
   static const Enum<SceneryStatus>& of(SceneryStatus type);
+  static const Enum<HydrologicalStateType>& of(HydrologicalStateType type);
 };

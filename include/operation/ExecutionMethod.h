@@ -8,6 +8,7 @@
 #include "common/Date.h"
 #include "common/Interval.h"
 #include "core/Element.h"
+#include "core/Link.h"
 #include "core/Enum.h"
 #include "core/SettingsManager.h"
 
@@ -48,6 +49,8 @@ class ExecutionMethod {
   // "Passed element is not valid for element setting" for a reservoir without rule settings.
   void configureZeroContribution(const SettingsManager& settingsManager,
                                  const Elements& reservoirs) const;
+  // Prepares the cost tables of every pumping line among links.
+  static void configureLinkAddonPumping(const std::vector<std::shared_ptr<Link>>& links);
   // Keeps each reservoir's link lists, from which inversions are undone.
   static void backupReservoirsLinks(const Elements& reservoirs);
 

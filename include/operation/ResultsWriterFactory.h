@@ -14,5 +14,6 @@ class ResultsWriterFactory {
   static std::shared_ptr<ResultsWriter> makeBasinResultsWriter();
   static std::shared_ptr<ResultsWriter> makeDemandResultsWriter();
   static std::shared_ptr<ResultsWriter> makeReservoirRuleResultsWriter();
+  static std::shared_ptr<ResultsWriter> makeReservoirPriorityResultsWriter();
   static std::shared_ptr<ResultsWriter> makeJunctionResultsWriter();
 };

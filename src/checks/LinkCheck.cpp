@@ -4,6 +4,7 @@
 #include "checks/SerieCheck.h"
 #include "common/NumericalUtils.h"
 #include "common/PeriodWalker.h"
+#include "core/LinkAddonPumping.h"
 #include "core/LinkRuleSettings.h"
 #include "core/Node.h"
 #include "core/RuleSettings.h"
@@ -18,6 +19,9 @@ void LinkCheck::runChecks() {
   static const std::vector<void (LinkCheck::*)()> table = {
       &LinkCheck::checkUpstream,
       &LinkCheck::checkDownstream,
+      &LinkCheck::checkNumberOfLinesLinkAddonPumping,
+      &LinkCheck::checkLinkAddonPumpingFirstLine,
+      &LinkCheck::checkLinkAddonPumpingLines,
       &LinkCheck::checkNaturalBidirectionalLink,
       &LinkCheck::checkLinkLossSerie,
   };
@@ -30,6 +34,57 @@ void LinkCheck::checkUpstream() {
 
 void LinkCheck::checkDownstream() {
   if (!link().getDownstream()) report("Trecho sem elemento a jusante:");
+}
+
+namespace {
+
+// The cost table of a pumping line, or null for another add-on.
+const std::vector<std::shared_ptr<PumpingFlowCost>>* pumpingTable(const Link& link) {
+  if (link.getLinkAddon()->getType() != LinkAddonType::pumping) return nullptr;
+  return &static_cast<const LinkAddonPumping&>(*link.getLinkAddon()).getFlowCostVector();
+}
+
+}  // namespace
+
+void LinkCheck::checkNumberOfLinesLinkAddonPumping() {
+  const auto* table = pumpingTable(link());
+  if (table && table->size() < 3) {
+    report("Matriz do trecho de bombeamento possui menos que 3 linhas em:");
+  }
+}
+
+void LinkCheck::checkLinkAddonPumpingFirstLine() {
+  const auto* table = pumpingTable(link());
+  if (!table || table->empty()) return;
+  const PumpingFlowCost& first = *table->front();
+  bool zeros = NumericalUtils::compareDoubles(first.flow, 0.0, 1e-6);
+  for (double cost : first.costs) zeros = zeros && NumericalUtils::compareDoubles(cost, 0.0, 1e-6);
+  if (!zeros) report("A primeira linha da matriz de bombeamento deve ser composta de zeros:");
+}
+
+// Each column of the cost table must rise strictly from row to row.
+void LinkCheck::checkLinkAddonPumpingLines() {
+  const auto* table = pumpingTable(link());
+  if (!table) return;
+  for (std::size_t i = 0; i + 1 < table->size(); ++i) {
+    const PumpingFlowCost& row = *(*table)[i];
+    const PumpingFlowCost& next = *(*table)[i + 1];
+    const std::string rows = " (i = " + std::to_string(i) + ", i + 1 = " + std::to_string(i + 1);
+    if (next.flow <= row.flow) {
+      report(
+          "Matriz de bombeamento inválida. O valor da vazão da linha i é menor ou igual a vazão "
+          "da linha i + 1:" +
+          rows + ")");
+    }
+    for (std::size_t m = 0; m < row.costs.size(); ++m) {
+      if (next.costs[m] <= row.costs[m]) {
+        report(
+            "Matriz de bombeamento inválida. O valor do custo da linha i + 1 no mês m é menor ou "
+            "igual ao o custo na linha i:" +
+            rows + ", m = " + std::to_string(m + 1) + ")");
+      }
+    }
+  }
 }
 
 void LinkCheck::checkNaturalBidirectionalLink() {

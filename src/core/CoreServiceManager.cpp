@@ -12,6 +12,9 @@
 #include "core/MementoChangeLinkType.h"
 #include "core/NetworkUtils.h"
 #include "core/Vocabulary.h"
+#include "project/database/DatabaseDelete.h"
+#include "project/database/DatabaseInsert.h"
+#include "project/database/SQLStorage.h"
 
 namespace {
 
@@ -60,6 +63,76 @@ void carryLinkData(const Link& from, Link& to) {
 }
 
 }  // namespace
+
+void CoreServiceManager::addElement(const ScenarioPtr& scenario, const ElementPtr& element,
+                                    bool rename) {
+  scenario->addElement(element, rename);
+  insertInDatabase(scenario, element);
+  scenario->posAddElement(element, rename);
+}
+
+void CoreServiceManager::addElement(const ScenarioPtr& scenario, const ElementPtr& element,
+                                    unsigned int id, bool rename) {
+  scenario->addElement(element, rename, id);
+  insertInDatabase(scenario, element);
+  scenario->posAddElement(element, rename);
+}
+
+CoreServiceManager::ElementPtr CoreServiceManager::createElement(const ScenarioPtr& scenario,
+                                                                 ElementType type, bool rename) {
+  ElementPtr element = ElementFactory::make(type);
+  addElement(scenario, element, rename);
+  return element;
+}
+
+std::shared_ptr<Node> CoreServiceManager::createNode(const ScenarioPtr& scenario,
+                                                     ElementType type, const Point2D& position,
+                                                     bool rename) {
+  std::shared_ptr<Node> node = makeNode(type, position);
+  addElement(scenario, node, rename);
+  return node;
+}
+
+std::shared_ptr<Link> CoreServiceManager::createLink(const ScenarioPtr& scenario,
+                                                     ElementType type,
+                                                     const std::shared_ptr<Node>& upstream,
+                                                     const std::shared_ptr<Node>& downstream,
+                                                     bool rename) {
+  requireType(ElementSets::links(), type, "CoreServiceManager::createLink(): invalid link type");
+  std::shared_ptr<Link> link = makeCheckedLink(scenario, type, upstream, downstream, "");
+  addElement(scenario, link, rename);
+  return link;
+}
+
+void CoreServiceManager::deleteElement(const ScenarioPtr& scenario, const ElementPtr& element) {
+  deleteWithLinks(scenario, element, removeWithDatabase);
+}
+
+std::shared_ptr<Link> CoreServiceManager::changeLinkType(const std::shared_ptr<Link>& link,
+                                                         ElementType type,
+                                                         const ScenarioPtr& scenario) {
+  requireType(ElementSets::links(), type,
+              "CoreServiceManager::changeLinkType(): invalid link type");
+  if (link->getType() == type) return link;
+  return replaceLink(link, type, scenario, removeWithDatabase, addKeepingName);
+}
+
+void CoreServiceManager::removeWithDatabase(const ScenarioPtr& scenario,
+                                            const ElementPtr& element) {
+  DatabaseDelete::deleteElement(SQLStorage::getInstance().getStorageRef(),
+                                element->getDatabaseId(), element.get());
+  scenario->removeElement(element->getId());
+}
+
+void CoreServiceManager::addKeepingName(const ScenarioPtr& scenario, const ElementPtr& element,
+                                        unsigned int id) {
+  addElement(scenario, element, id, false);
+}
+
+void CoreServiceManager::insertInDatabase(const ScenarioPtr& scenario, const ElementPtr& element) {
+  DatabaseInsert::insertNewElementInSceneryDatabase(SQLStorage::getInstance().getStorageRef(),
+                                                    scenario->getDatabaseId(), *element);
+}
 
 void CoreServiceManager::addElementNoDatabase(const ScenarioPtr& scenario,
                                               const ElementPtr& element, bool rename) {

@@ -11,6 +11,7 @@
 #include "core/Vocabulary.h"
 #include "operation/ExecutionMethod.h"
 #include "operation/IntervalWindowed.h"
+#include "operation/PumpingManager.h"
 #include "operation/OperationSystem.h"
 
 Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned int id,
@@ -19,6 +20,7 @@ Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsi
       id(id),
       name(name),
       executionMethod(executionMethod),
+      pumpingCosts(PumpingManager::getEnumDemandTypes().size(), 0.0),
       sceneryStatus(Vocabulary::of(SceneryStatus::configurationError)) {}
 
 void Scenario::addElement(const std::shared_ptr<Element>& element, bool rename) {
@@ -70,6 +72,7 @@ bool Scenario::run(const Progress& progress) {
     setSceneryStatus(SceneryStatus::configurationError);
     return false;
   }
+  ExecutionMethod::configureLinkAddonPumping(ElementsFilter::filterByEnabledLinks(elements));
   clearResultSeries();
   createResults();
   currentOperationSystem = getOperationSystem();

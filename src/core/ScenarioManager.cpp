@@ -1,7 +1,18 @@
 #include "core/ScenarioManager.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <algorithm>
 #include <stdexcept>
+
+#include "common/Calendar.h"
+#include "core/ElementsFilter.h"
+#include "core/KOVACoreProgressBar.h"
+#include "project/database/DatabaseDelete.h"
+#include "project/database/DatabaseException.h"
+#include "project/database/DatabaseUpdate.h"
+#include "project/database/SQLStorage.h"
+#include "project/database/TimeStampHash.h"
 
 ScenarioManager& ScenarioManager::getInstance() {
   static ScenarioManager instance;
@@ -63,8 +74,12 @@ void ScenarioManager::deleteCurrentScenery(bool fromDatabase) {
   if (sceneries.empty()) return;
   const unsigned int removed = getIndexOfCurrentScen();
   if (fromDatabase) {
-    throw std::logic_error(
-        "ScenarioManager::deleteCurrentScenery(): the project database is not open");
+    if (!SQLStorage::hasInstance()) {
+      throw std::logic_error(
+          "ScenarioManager::deleteCurrentScenery(): the project database is not open");
+    }
+    DatabaseDelete::deleteScenByID(SQLStorage::getInstance().getStorageRef(),
+                                   sceneries.at(removed)->getDatabaseId());
   }
   std::map<unsigned int, std::shared_ptr<Scenario>> renumbered;
   for (const auto& entry : sceneries) {
@@ -86,14 +101,47 @@ void ScenarioManager::clear() {
   currentScenario = nullptr;
   numberOfSceneries = 0;
   countVirtualElementId = 0;
+  nextScenarioId = 1;
 }
 
-bool ScenarioManager::executeScenery(int index, const Progress& progress, const Progress&) {
+bool ScenarioManager::executeScenery(int index, const Progress& progress,
+                                     const Progress& databaseProgress) {
   auto it = index < 0 ? sceneries.end() : sceneries.find(static_cast<unsigned int>(index));
   if (it == sceneries.end()) {
     throw std::invalid_argument("ScenarioManager::executeScenery: scenery's index is invalid");
   }
-  return it->second->run(progress);
+  const bool finished = it->second->run(progress);
+  if (finished && databaseProgress) {
+    updateSceneryResultsInDatabase(it->second, SQLStorage::getInstance().getStorageRef(),
+                                   databaseProgress);
+  }
+  return finished;
+}
+
+void ScenarioManager::updateSceneryResultsInDatabase(const std::shared_ptr<Scenario>& scenario,
+                                                     SQLite::Database& storage,
+                                                     const Progress& progress) {
+  const auto elements = ElementsFilter::filterByEnabledElements(scenario->getElements());
+  const auto windows = static_cast<unsigned int>(scenario->calcVectorOfIntervals().size());
+  KOVACoreProgressBar bar(0, static_cast<unsigned int>(
+                                 getTotalOfResultsInDatabaseProgressBar(windows, elements)),
+                          progress);
+  const std::string timeStamp = Calendar::getTimeStamp();
+  const std::string hash = TimeStampHash::make(scenario->getDatabaseId(), timeStamp);
+  DatabaseException::guard([&] {
+    SQLite::Transaction transaction(storage, SQLite::TransactionBehavior::IMMEDIATE);
+    for (const auto& element : elements) {
+      const auto held = std::min<std::size_t>(windows, element->getOutputSeries().size());
+      for (unsigned int window = 0; window < held; ++window) {
+        for (const auto& serie : element->getVectorOfSeries(window)) {
+          DatabaseUpdate::updateOutputSerie(storage, element->getDatabaseId(), *serie, window,
+                                            timeStamp, hash);
+          bar.updateWithThrow();
+        }
+      }
+    }
+    transaction.commit();
+  });
 }
 
 long ScenarioManager::getTotalOfResultsInDatabaseProgressBar(unsigned int numberOfWindows,

@@ -242,6 +242,18 @@ const EnumTable<Enum<SceneryStatus>, SceneryStatus>& Vocabulary::sceneryStatuses
   return table;
 }
 
+const EnumTable<Enum<HydrologicalStateType>, HydrologicalStateType>&
+Vocabulary::hydrologicalStateTypes() {
+  using H = HydrologicalStateType;
+  static const EnumTable<Enum<HydrologicalStateType>, HydrologicalStateType> table({
+      {H::none, "Sem"},
+      {H::standard, "Padrão"},
+      {H::perReservoir, "Por reservatório"},
+      {H::perReservoirMonthly, "Por reservatório mensal"},
+  });
+  return table;
+}
+
 Unit Vocabulary::unitOf(SerieType type) {
   static const std::map<SerieType, Unit> units = [] {
     std::map<SerieType, Unit> result;
@@ -320,4 +332,7 @@ const EnumLinkAddonType& Vocabulary::of(LinkAddonType type) {
 const Enum<Sense>& Vocabulary::of(Sense type) { return rowOf(senses(), type); }
 const Enum<SceneryStatus>& Vocabulary::of(SceneryStatus type) {
   return rowOf(sceneryStatuses(), type);
+}
+const Enum<HydrologicalStateType>& Vocabulary::of(HydrologicalStateType type) {
+  return rowOf(hydrologicalStateTypes(), type);
 }

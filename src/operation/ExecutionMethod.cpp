@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "common/Calendar.h"
+#include "core/LinkAddonPumping.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/Vocabulary.h"
@@ -75,6 +76,14 @@ void ExecutionMethod::configureZeroContribution(const SettingsManager& settingsM
         settingsManager.getSettings(reservoir->getId()));
     if (!settings) throw std::invalid_argument("Passed element is not valid for element setting");
     if (settings->getRule()) settings->getRule()->setZeroContribution(zeroContribution);
+  }
+}
+
+void ExecutionMethod::configureLinkAddonPumping(const std::vector<std::shared_ptr<Link>>& links) {
+  for (const auto& link : links) {
+    if (link->getLinkAddon()->getType() == LinkAddonType::pumping) {
+      std::static_pointer_cast<LinkAddonPumping>(link->getLinkAddon())->regressionCalculation();
+    }
   }
 }
 

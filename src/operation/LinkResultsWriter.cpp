@@ -2,6 +2,7 @@
 
 #include "common/NumericalUtils.h"
 #include "core/Link.h"
+#include "operation/LinkAddonResultsWriter.h"
 
 void LinkResultsWriter::write(const Date& date, unsigned int windowIndex,
                               const std::shared_ptr<Element>& element, const Interval&, bool) {
@@ -13,6 +14,7 @@ void LinkResultsWriter::write(const Date& date, unsigned int windowIndex,
   if (outflow < 0.0) outflow = 0.0;
   link->getOutputSerie(SerieType::transitLoss, windowIndex)->setValue(date, loss);
   link->getOutputSerie(SerieType::outflow, windowIndex)->setValue(date, outflow);
+  LinkAddonResultsWriter::write(link, date, windowIndex);
   if (link->getIsBidirectional()) {
     link->getOutputSerie(SerieType::linkSense, windowIndex)
         ->setValue(date, static_cast<double>(link->getCurrentSense()));

@@ -9,20 +9,23 @@
 #include "operation/DemandResultsWriter.h"
 #include "operation/JunctionResultsWriter.h"
 #include "operation/LinkResultsWriter.h"
+#include "operation/ReservoirPriorityResultsWriter.h"
 #include "operation/ReservoirResultsWriter.h"
 
 namespace {
 
 using Maker = std::function<std::shared_ptr<ResultsWriter>()>;
 
-void addRuleWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario) {
+// Every kind of scenario that runs shares the writers of all elements but the reservoir's.
+void addWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario,
+                const Maker& reservoirWriter) {
   for (ElementType link : ElementSets::links()) {
     makers[{scenario, link}] = ResultsWriterFactory::makeLinkResultsWriter;
   }
   for (ElementType demand : ElementSets::demands()) {
     makers[{scenario, demand}] = ResultsWriterFactory::makeDemandResultsWriter;
   }
-  makers[{scenario, ElementType::reservoir}] = ResultsWriterFactory::makeReservoirRuleResultsWriter;
+  makers[{scenario, ElementType::reservoir}] = reservoirWriter;
   makers[{scenario, ElementType::junction}] = ResultsWriterFactory::makeJunctionResultsWriter;
   makers[{scenario, ElementType::basin}] = ResultsWriterFactory::makeBasinResultsWriter;
 }
@@ -30,7 +33,10 @@ void addRuleWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario)
 const std::map<KeySettings, Maker>& makers() {
   static const std::map<KeySettings, Maker> table = [] {
     std::map<KeySettings, Maker> result;
-    addRuleWriters(result, ScenarioType::ruleSimulator);
+    addWriters(result, ScenarioType::ruleSimulator,
+               ResultsWriterFactory::makeReservoirRuleResultsWriter);
+    addWriters(result, ScenarioType::priorityOptimizer,
+               ResultsWriterFactory::makeReservoirPriorityResultsWriter);
     return result;
   }();
   return table;
@@ -61,6 +67,10 @@ std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeDemandResultsWriter() {
 
 std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeReservoirRuleResultsWriter() {
   return std::make_shared<ReservoirRuleResultsWriter>();
+}
+
+std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeReservoirPriorityResultsWriter() {
+  return std::make_shared<ReservoirPriorityResultsWriter>();
 }
 
 std::shared_ptr<ResultsWriter> ResultsWriterFactory::makeJunctionResultsWriter() {

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "operation/KLPKRow.h"
+#include "operation/KLPKVariable.h"
+
+struct _lprec;
+
+// A linear programme held in memory, built by name through KLPKUtils and handed to lp_solve only
+// when it is solved. Rows and columns are numbered from 0 in the order they were added and found
+// by name through a hash index. Rows are kept sparse; the programme lp_solve receives has every
+// row, in order, followed by one row per bound of each column (see executeSimplex()).
+class KLPKRepresentation {
+ public:
+  enum KLPK_OPT_DIRECTION_FLAG { KLPK_MAX = 0, KLPK_MIN = 1 };
+  enum KLPK_TERMINAL_OUTPUT { KLPK_OFF = 0, KLPK_ON = 1 };
+
+  KLPKRepresentation() = default;
+  KLPKRepresentation(const KLPKRepresentation&) = delete;
+  KLPKRepresentation& operator=(const KLPKRepresentation&) = delete;
+  // Frees the solver's copy of the last solve.
+  ~KLPKRepresentation();
+
+  // Drops every row, column and objective coefficient; the name, direction and last solve stay.
+  void erase();
+
+  const std::string& getProblemName() const { return problemName; }
+  void setProblemName(const std::string& name) { problemName = name; }
+  KLPK_OPT_DIRECTION_FLAG getOptDirection() const { return klpkOptDirectionFlag; }
+  void setOptDirection(KLPK_OPT_DIRECTION_FLAG flag) { klpkOptDirectionFlag = flag; }
+  KLPK_TERMINAL_OUTPUT getTerminalOutput() const { return klpkTerminalOutput; }
+  // With KLPK_ON lp_solve reports at its normal level (on stderr); with KLPK_OFF it is silent.
+  void setTerminalOutput(KLPK_TERMINAL_OUTPUT flag) { klpkTerminalOutput = flag; }
+
+  int getNumberOfVariables() const { return static_cast<int>(variables.size()); }
+  int getNumberOfRows() const { return static_cast<int>(rows.size()); }
+  // The 0-based index of the column or row of that name, or -1.
+  int findVariable(const std::string& name) const;
+  int findRow(const std::string& name) const;
+  // Appends a column (at least 0.0, no upper bound, objective 0.0) or a free row; gives its index.
+  int addVariable(const std::string& name);
+  int addRow(const std::string& name);
+  // The column or row at a 0-based index. Throw std::invalid_argument "The index is out of
+  // bounds" for any other index.
+  KLPKVariable& getVariable(int index);
+  const KLPKVariable& getVariable(int index) const;
+  KLPKRow& getRow(int index);
+  const KLPKRow& getRow(int index) const;
+  // The objective coefficient of a column. Throws as getVariable.
+  double getObjectiveCoefficient(int column) const;
+  void setObjectiveCoefficient(int column, double value);
+
+  // Solves the programme with lp_solve and keeps the solution in each column: 0 when an optimal
+  // solution was found, 1 otherwise (the columns then keep their previous values).
+  int executeSimplex();
+  // The objective value of the last optimal solution.
+  double getValueOfOptimizationFound() const { return valueOfOptimizationFound; }
+  // Writes the last solved programme in lp_solve's LP format / its solution, one line per
+  // column; false when nothing was solved or the file cannot be written.
+  bool writeLp(const std::string& fileName) const;
+  bool printSolution(const std::string& fileName) const;
+
+ private:
+  int verbosity() const;
+  // The programme as lp_solve takes it; null when lp_solve cannot make one.
+  _lprec* produceLPrecPointerUsingMemory() const;
+  bool addModelRows(_lprec* lp) const;
+  bool addBoundRows(_lprec* lp) const;
+  void readSolution();
+  void deleteLPrec();
+
+  std::string problemName;
+  KLPK_OPT_DIRECTION_FLAG klpkOptDirectionFlag = KLPK_MAX;
+  std::vector<KLPKRow> rows;
+  std::vector<KLPKVariable> variables;
+  std::vector<double> objective;
+  std::unordered_map<std::string, int> rowIndex;
+  std::unordered_map<std::string, int> variableIndex;
+  double valueOfOptimizationFound = 0.0;
+  _lprec* lp = nullptr;
+  KLPK_TERMINAL_OUTPUT klpkTerminalOutput = KLPK_OFF;
+};

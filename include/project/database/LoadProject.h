@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class Scenario;
+
+// Opens a project: the project file gives the scenarios, the database beside it their series.
+class LoadProject {
+ public:
+  // The scenarios of the project at path, with series from "<path>.sqlite", which becomes the
+  // open database (SQLStorage). progress is told (elements loaded, elements in all). Throws
+  // JsonLoadExceptionPermissionDenied before anything is read when either file may not be
+  // written, DatabaseException when the database cannot be used, and what JsonProjectLoader::load
+  // throws for the file.
+  static std::vector<std::shared_ptr<Scenario>> load(
+      const std::string& path, const std::function<bool(long, long)>& progress);
+  // The database path of the project at path.
+  static std::string databasePath(const std::string& path);
+};

@@ -1,0 +1,36 @@
+#include "project/JsonLoadExecutionMethodFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonMakerTable.h"
+
+namespace {
+
+using Maker = std::function<std::shared_ptr<JsonLoadExecutionMethod>()>;
+
+template <ExecutionType type>
+std::shared_ptr<JsonLoadExecutionMethod> makeCommonOnly() {
+  return std::make_shared<JsonLoadExecutionMethod>(type);
+}
+
+const JsonMakerTable<Maker>& makers() {
+  static const JsonMakerTable<Maker> table(
+      {
+          {Vocabulary::of(ExecutionType::continuous).getName(),
+           makeCommonOnly<ExecutionType::continuous>},
+          {Vocabulary::of(ExecutionType::windowed).getName(),
+           makeCommonOnly<ExecutionType::windowed>},
+      },
+      "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonLoadExecutionMethod> JsonLoadExecutionMethodFactory::make(
+    const std::string& type) {
+  return makers().at(type)();
+}
+
+std::vector<std::string> JsonLoadExecutionMethodFactory::keys() { return makers().keys(); }

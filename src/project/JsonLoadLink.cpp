@@ -1,0 +1,108 @@
+#include "project/JsonLoadLink.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "core/Node.h"
+#include "core/Scenario.h"
+#include "core/Vocabulary.h"
+#include "project/JsonLoadHelper.h"
+#include "project/JsonLoadLinkAddonFactory.h"
+
+using json = nlohmann::json;
+using Helper = JsonLoadHelper;
+
+namespace {
+
+std::shared_ptr<Node> nodeOf(const Scenario& scenario, unsigned int id) {
+  auto node = std::dynamic_pointer_cast<Node>(scenario.getElement(id));
+  if (!node) throw std::invalid_argument("JsonLoadLink::load(): the ends of a link must be nodes");
+  return node;
+}
+
+int senseOf(const std::string& name) {
+  const Enum<Sense>* sense = Vocabulary::senses().findByName(name);
+  if (sense == nullptr) throw std::out_of_range("map::at");
+  return sense->getId();
+}
+
+}  // namespace
+
+JsonLoadLink::JsonLoadLink(std::shared_ptr<Link> link, std::shared_ptr<Scenario> scenario)
+    : JsonLoadElement(link, std::move(scenario)), link(std::move(link)) {}
+
+void JsonLoadLink::load(const json& item) {
+  loadElement(Helper::findRequired(item, "element"));
+  loadEnds(item);
+  loadOldTrafficLimit(item);
+  loadAddon(item);
+  Helper::applyOptional<bool>(item, "union", [this](bool value) { link->setIsUnion(value); });
+  Helper::applyOptional<bool>(item, "bidirectional",
+                              [this](bool value) { link->setIsBidirectional(value); });
+  loadSenseInfo(item);
+  loadSpecific(item);
+}
+
+void JsonLoadLink::loadSpecific(const json&) {}
+
+void JsonLoadLink::loadEnds(const json& item) {
+  const Scenario& scenario = *getScenario();
+  const auto upstream = nodeOf(scenario, Helper::getRequired<unsigned int>(item, "upstream"));
+  const auto downstream = nodeOf(scenario, Helper::getRequired<unsigned int>(item, "downstream"));
+  link->setUpstream(upstream);
+  link->setDownstream(downstream);
+  downstream->addUpstream(link);
+  upstream->addDownstream(link);
+  // The link was added before its ends were known: its column in the upstream node's allocation
+  // is made now, unless the node's settings already brought it.
+  getScenario()->posAddElement(link, false);
+}
+
+void JsonLoadLink::loadOldTrafficLimit(const json& item) {
+  bool found = false;
+  const json& limit = Helper::findOptional(found, item, "linkTrafficLimit");
+  if (!found) return;
+  const double maxValue = Helper::findOptional<double>(found, limit, "maxValue");
+  if (!found) return;
+  link->getInputSerie(SerieType::linkLimit)->fill(maxValue, getScenario()->getInterval());
+  oldTrafficLimit = true;
+}
+
+void JsonLoadLink::loadAddon(const json& item) {
+  bool found = false;
+  const json& addon = Helper::findOptional(found, item, "linkAddon");
+  if (!found) return;
+  JsonLoadLinkAddonFactory::make(Helper::getRequired<std::string>(addon, "linkAddonType"), link)
+      ->load(addon);
+}
+
+void JsonLoadLink::loadSenseInfo(const json& item) {
+  bool found = false;
+  const json& object = Helper::findOptional(found, item, "senseInfo");
+  if (!found) return;
+  SenseInfo info;
+  Helper::applyOptional<std::vector<double>>(
+      object, "originalSourceVolumesRange",
+      [&](const std::vector<double>& range) { info.originalSourceVolumesRange = range; });
+  Helper::applyOptional<std::vector<double>>(
+      object, "originalDestinyVolumesRange",
+      [&](const std::vector<double>& range) { info.originalDestinyVolumesRange = range; });
+  Helper::applyOptional<std::vector<std::vector<std::string>>>(
+      object, "senses", [&](const std::vector<std::vector<std::string>>& names) {
+        for (const auto& row : names) {
+          info.senses.emplace_back();
+          for (const auto& name : row) info.senses.back().push_back(senseOf(name));
+        }
+      });
+  link->configureSenseInfo(info);
+}
+
+JsonLoadNaturalLink::JsonLoadNaturalLink(std::shared_ptr<NaturalLink> link,
+                                         std::shared_ptr<Scenario> scenario)
+    : JsonLoadLink(link, std::move(scenario)), naturalLink(std::move(link)) {}
+
+void JsonLoadNaturalLink::loadSpecific(const json& item) {
+  Helper::applyOptional<bool>(item, "lateralContribution",
+                              [this](bool value) { naturalLink->setLateralContribution(value); });
+}

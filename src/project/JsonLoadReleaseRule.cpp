@@ -1,0 +1,40 @@
+#include "project/JsonLoadReleaseRule.h"
+
+#include <vector>
+
+#include "common/SerieFactory.h"
+#include "core/Scenario.h"
+#include "core/Vocabulary.h"
+#include "project/JsonLoadHelper.h"
+#include "rules/ConstReleaseRule.h"
+#include "rules/PeriodicReleaseRule.h"
+#include "rules/SerieReleaseRule.h"
+
+using json = nlohmann::json;
+using Helper = JsonLoadHelper;
+
+JsonLoadReleaseRule::JsonLoadReleaseRule(std::shared_ptr<ReleaseRule> rule,
+                                         std::shared_ptr<Scenario> scenario)
+    : rule(std::move(rule)), scenario(std::move(scenario)) {}
+
+void JsonLoadReleaseRule::load(const json&) const {}
+
+void JsonLoadConstReleaseRule::load(const json& object) const {
+  getRule<ConstReleaseRule>().setRelease(Helper::getRequired<double>(object, "Release"));
+}
+
+void JsonLoadPeriodicReleaseRule::load(const json& object) const {
+  getRule<PeriodicReleaseRule>().setRelease(
+      Helper::getRequired<std::vector<double>>(object, "Release"));
+}
+
+void JsonLoadSerieReleaseRule::load(const json& object) const {
+  const SerieType type = SerieType::releasedFlow;
+  auto serie = SerieFactory::make(Vocabulary::of(type), Vocabulary::of(Vocabulary::unitOf(type)),
+                                  getScenario().getInterval());
+  for (const json& item : Helper::asArray(Helper::findRequired(object, serie->getName()))) {
+    serie->setValue(Helper::getRequired<unsigned int>(item, "julianDay"),
+                    Helper::getRequired<double>(item, "value"));
+  }
+  getRule<SerieReleaseRule>().setReleaseSerie(serie);
+}

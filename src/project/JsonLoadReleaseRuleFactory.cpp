@@ -1,0 +1,50 @@
+#include "project/JsonLoadReleaseRuleFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonLoadHydrologicalStateReleaseRule.h"
+#include "project/JsonLoadVolDepOneReleaseRule.h"
+#include "project/JsonLoadVolDepTwoReleaseRule.h"
+#include "project/JsonMakerTable.h"
+
+namespace {
+
+using Maker = std::function<std::shared_ptr<JsonLoadReleaseRule>(
+    const std::shared_ptr<ReleaseRule>&, const std::shared_ptr<Scenario>&)>;
+
+template <typename Reader>
+std::shared_ptr<JsonLoadReleaseRule> makeReader(const std::shared_ptr<ReleaseRule>& rule,
+                                                const std::shared_ptr<Scenario>& scenario) {
+  return std::make_shared<Reader>(rule, scenario);
+}
+
+const std::string& nameOf(ReleaseRuleType type) { return Vocabulary::of(type).getName(); }
+
+const JsonMakerTable<Maker>& makers() {
+  using R = ReleaseRuleType;
+  static const JsonMakerTable<Maker> table(
+      {
+          {nameOf(R::none), makeReader<JsonLoadReleaseRule>},
+          {nameOf(R::constant), makeReader<JsonLoadConstReleaseRule>},
+          {nameOf(R::periodic), makeReader<JsonLoadPeriodicReleaseRule>},
+          {nameOf(R::serie), makeReader<JsonLoadSerieReleaseRule>},
+          {nameOf(R::hydrologicalState), makeReader<JsonLoadHydrologicalStateReleaseRule>},
+          {nameOf(R::staticVolumeDependence1), makeReader<JsonLoadVolDepOneReleaseRule>},
+          {nameOf(R::periodicVolumeDependence1), makeReader<JsonLoadVolDepOneReleaseRule>},
+          {nameOf(R::staticVolumeDependence2), makeReader<JsonLoadVolDepTwoReleaseRule>},
+          {nameOf(R::periodicVolumeDependence2), makeReader<JsonLoadVolDepTwoReleaseRule>},
+      },
+      "JsonLoadReleaseRuleFactory::make(): invalid ReleaseRuleType");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonLoadReleaseRule> JsonLoadReleaseRuleFactory::make(
+    const std::string& type, const std::shared_ptr<ReleaseRule>& rule,
+    const std::shared_ptr<Scenario>& scenario) {
+  return makers().at(type)(rule, scenario);
+}
+
+std::vector<std::string> JsonLoadReleaseRuleFactory::keys() { return makers().keys(); }

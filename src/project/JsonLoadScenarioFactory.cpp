@@ -1,0 +1,33 @@
+#include "project/JsonLoadScenarioFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonLoadRuleScenario.h"
+#include "project/JsonMakerTable.h"
+
+namespace {
+
+using Maker = std::function<std::shared_ptr<JsonLoadScenario>()>;
+
+template <typename Reader>
+std::shared_ptr<JsonLoadScenario> makeReader() {
+  return std::make_shared<Reader>();
+}
+
+const JsonMakerTable<Maker>& makers() {
+  static const JsonMakerTable<Maker> table(
+      {
+          {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeReader<JsonLoadRuleScenario>},
+      },
+      "JsonLoadScenarioFactory::make(): invalid scenarioType");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonLoadScenario> JsonLoadScenarioFactory::make(const std::string& type) {
+  return makers().at(type)();
+}
+
+std::vector<std::string> JsonLoadScenarioFactory::keys() { return makers().keys(); }

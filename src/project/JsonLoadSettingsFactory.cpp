@@ -1,0 +1,56 @@
+#include "project/JsonLoadSettingsFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonLoadSettingsRule.h"
+#include "project/JsonLoadSettingsRuleReservoir.h"
+#include "project/JsonMakerTable.h"
+
+namespace {
+
+using Key = std::pair<std::string, std::string>;
+using Maker = std::function<std::shared_ptr<JsonLoadSettings>(const std::shared_ptr<Element>&,
+                                                              const std::shared_ptr<Scenario>&)>;
+
+template <typename Reader>
+std::shared_ptr<JsonLoadSettings> makeReader(const std::shared_ptr<Element>& element,
+                                             const std::shared_ptr<Scenario>& scenario) {
+  return std::make_shared<Reader>(element, scenario);
+}
+
+Key keyOf(ScenarioType scenario, ElementType element) {
+  return {Vocabulary::of(scenario).getName(), Vocabulary::of(element).getName()};
+}
+
+const JsonMakerTable<Maker, Key>& makers() {
+  using E = ElementType;
+  const ScenarioType rules = ScenarioType::ruleSimulator;
+  static const JsonMakerTable<Maker, Key> table(
+      {
+          {keyOf(rules, E::reservoir), makeReader<JsonLoadSettingsRuleReservoir>},
+          {keyOf(rules, E::junction), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::basin), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::humanDemand), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::animalDemand), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::industrialDemand), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::irrigationDemand), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::drain), makeReader<JsonLoadSettingsRule>},
+          {keyOf(rules, E::naturalLink), makeReader<JsonLoadSettingsRuleLink>},
+          {keyOf(rules, E::artificialLink), makeReader<JsonLoadSettingsRuleLink>},
+      },
+      "JsonSaveSettingsFactory::make(): invalid parameter key");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonLoadSettings> JsonLoadSettingsFactory::make(
+    const std::shared_ptr<Element>& element, const std::shared_ptr<Scenario>& scenario) {
+  const Key key = {scenario->getScenarioType().getName(), element->getElementType().getName()};
+  return makers().at(key)(element, scenario);
+}
+
+std::vector<std::pair<std::string, std::string>> JsonLoadSettingsFactory::keys() {
+  return makers().keys();
+}

@@ -1,0 +1,74 @@
+#include "project/JsonSaveBuilder.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "common/NumericalUtils.h"
+#include "common/Serie.h"
+#include "common/StringUtils.h"
+#include "core/Scenario.h"
+#include "core/ScenarioManager.h"
+#include "project/JsonSaveProjectConfig.h"
+#include "project/JsonSaveSceneryFactory.h"
+
+bool JsonSaveBuilder::save(const std::string& path) {
+  std::vector<std::shared_ptr<Scenario>> scenarios;
+  for (const auto& entry : ScenarioManager::getInstance().getSceneries()) {
+    scenarios.push_back(entry.second);
+  }
+  const std::string text = toJson(scenarios);
+  std::ofstream file(std::filesystem::u8path(path), std::ios::out);
+  file << text;
+  file.close();
+  return static_cast<bool>(file);
+}
+
+std::string JsonSaveBuilder::toJson(const std::vector<std::shared_ptr<Scenario>>& scenarios) {
+  const auto scenarioText = [](const std::shared_ptr<Scenario>& scenario) {
+    return JsonSaveSceneryFactory::make(scenario)->toJson();
+  };
+  return makeObject({makeJsonKeyValue("scenarios", makeArray(scenarios, scenarioText)),
+                     makeJsonKeyValue("project", makeObject({JsonSaveProjectConfig::toJson()}))});
+}
+
+std::string JsonSaveBuilder::makeJsonKey(const std::string& key) { return "\"" + key + "\":"; }
+
+std::string JsonSaveBuilder::makeJsonKeyValue(const std::string& key, const std::string& value) {
+  return makeJsonKey(key) + value;
+}
+
+std::string JsonSaveBuilder::makeObject(const Members& members) {
+  std::string text = "{";
+  for (const std::string& member : members) text += member + ",";
+  if (!members.empty()) text.pop_back();
+  return text + "}";
+}
+
+std::string JsonSaveBuilder::makeJsonKeyValueString(const std::string& key,
+                                                    const std::string& value) {
+  return makeJsonKey(key) + makeStringValue(value);
+}
+
+std::string JsonSaveBuilder::makeStringValue(const std::string& value) {
+  return "\"" + value + "\"";
+}
+
+// The empty value keeps the six decimals of printf's "%f", which readers of the format expect.
+std::string JsonSaveBuilder::makeFloatingValue(double value) {
+  return NumericalUtils::isEmpty(value) ? "-999.000000"
+                                        : StringUtils::floatingToStdString(value, -1);
+}
+
+std::string JsonSaveBuilder::makeVectorOfFloatingValues(const std::vector<double>& values) {
+  return makeArray(values, makeFloatingValue);
+}
+
+std::string JsonSaveBuilder::makeSerie(const Serie& serie) {
+  std::string text = "[";
+  for (const auto& [julian, value] : serie.getMapOfJulianToValues()) {
+    text +=
+        "{" + makeJsonKeyValue("julianDay", julian) + "," + makeJsonKeyValue("value", value) + "},";
+  }
+  if (!serie.getMapOfJulianToValues().empty()) text.pop_back();
+  return makeJsonKeyValue(serie.getName(), text + "]");
+}

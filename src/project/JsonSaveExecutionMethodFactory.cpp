@@ -1,0 +1,35 @@
+#include "project/JsonSaveExecutionMethodFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonMakerTable.h"
+
+namespace {
+
+using Maker = std::function<std::shared_ptr<JsonSaveExecutionMethod>(
+    const std::shared_ptr<ExecutionMethod>&)>;
+
+std::shared_ptr<JsonSaveExecutionMethod> makeCommonOnly(
+    const std::shared_ptr<ExecutionMethod>& method) {
+  return std::make_shared<JsonSaveExecutionMethod>(method);
+}
+
+const JsonMakerTable<Maker>& makers() {
+  static const JsonMakerTable<Maker> table(
+      {
+          {Vocabulary::of(ExecutionType::continuous).getName(), makeCommonOnly},
+          {Vocabulary::of(ExecutionType::windowed).getName(), makeCommonOnly},
+      },
+      "JsonSaveExecutionMethodFactory::make(): invalid ExecutionType");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonSaveExecutionMethod> JsonSaveExecutionMethodFactory::make(
+    const std::shared_ptr<ExecutionMethod>& method) {
+  return makers().at(method->getExecutionType().getName())(method);
+}
+
+std::vector<std::string> JsonSaveExecutionMethodFactory::keys() { return makers().keys(); }

@@ -1,0 +1,48 @@
+#include "project/JsonSaveReleaseRuleFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonMakerTable.h"
+#include "project/JsonSaveHydrologicalStateReleaseRule.h"
+#include "project/JsonSaveVolDepOneReleaseRule.h"
+#include "project/JsonSaveVolDepTwoReleaseRule.h"
+
+namespace {
+
+using Maker =
+    std::function<std::shared_ptr<JsonSaveReleaseRule>(const std::shared_ptr<ReleaseRule>&)>;
+
+template <typename Writer>
+std::shared_ptr<JsonSaveReleaseRule> makeWriter(const std::shared_ptr<ReleaseRule>& rule) {
+  return std::make_shared<Writer>(rule);
+}
+
+const std::string& nameOf(ReleaseRuleType type) { return Vocabulary::of(type).getName(); }
+
+const JsonMakerTable<Maker>& makers() {
+  using R = ReleaseRuleType;
+  static const JsonMakerTable<Maker> table(
+      {
+          {nameOf(R::none), makeWriter<JsonSaveReleaseRule>},
+          {nameOf(R::constant), makeWriter<JsonSaveConstReleaseRule>},
+          {nameOf(R::periodic), makeWriter<JsonSavePeriodicReleaseRule>},
+          {nameOf(R::serie), makeWriter<JsonSaveSerieReleaseRule>},
+          {nameOf(R::hydrologicalState), makeWriter<JsonSaveHydrologicalStateReleaseRule>},
+          {nameOf(R::staticVolumeDependence1), makeWriter<JsonSaveVolDepOneReleaseRule>},
+          {nameOf(R::periodicVolumeDependence1), makeWriter<JsonSaveVolDepOneReleaseRule>},
+          {nameOf(R::staticVolumeDependence2), makeWriter<JsonSaveVolDepTwoReleaseRule>},
+          {nameOf(R::periodicVolumeDependence2), makeWriter<JsonSaveVolDepTwoReleaseRule>},
+      },
+      "JsonSaveReleaseRuleFactory::make(): invalid ReleaseRuleType");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonSaveReleaseRule> JsonSaveReleaseRuleFactory::make(
+    const std::shared_ptr<ReleaseRule>& rule) {
+  return makers().at(rule->getType().getName())(rule);
+}
+
+std::vector<std::string> JsonSaveReleaseRuleFactory::keys() { return makers().keys(); }

@@ -1,0 +1,36 @@
+#include "project/JsonSaveSceneryFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonMakerTable.h"
+#include "project/JsonSaveRuleScenery.h"
+
+namespace {
+
+using Maker = std::function<std::shared_ptr<JsonSaveScenario>(const std::shared_ptr<Scenario>&)>;
+
+template <typename Writer>
+std::shared_ptr<JsonSaveScenario> makeWriter(const std::shared_ptr<Scenario>& scenario) {
+  return std::make_shared<Writer>(scenario);
+}
+
+const JsonMakerTable<Maker>& makers() {
+  static const JsonMakerTable<Maker> table(
+      {
+          {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeWriter<JsonSaveRuleScenery>},
+      },
+      "JsonSaveSceneryFactory::make(): invalid scenarioType");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonSaveScenario> JsonSaveSceneryFactory::make(
+    const std::shared_ptr<Scenario>& scenario) {
+  // An absent scenario has no type, which no row matches.
+  const std::string type = scenario ? scenario->getScenarioType().getName() : "";
+  return makers().at(type)(scenario);
+}
+
+std::vector<std::string> JsonSaveSceneryFactory::keys() { return makers().keys(); }

@@ -1,0 +1,16 @@
+#include "project/JsonSaveSettings.h"
+
+#include "core/LinkRuleSettings.h"
+#include "project/JsonSaveBuilder.h"
+
+using B = JsonSaveBuilder;
+
+JsonSaveSettings::JsonSaveSettings(std::shared_ptr<Element> element,
+                                   std::shared_ptr<Scenario> scenario)
+    : element(std::move(element)), scenario(std::move(scenario)) {}
+
+std::string JsonSaveSettingsRuleLink::toJson() const {
+  const auto& values = getSettings<LinkRuleSettings>()->getValues();
+  return B::makeObject(
+      {B::makeJsonKeyValue("bidirectionalAllocation", B::makeVectorOfFloatingValues(values))});
+}

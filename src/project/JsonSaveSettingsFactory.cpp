@@ -1,0 +1,56 @@
+#include "project/JsonSaveSettingsFactory.h"
+
+#include <functional>
+
+#include "core/Vocabulary.h"
+#include "project/JsonMakerTable.h"
+#include "project/JsonSaveSettingsRule.h"
+#include "project/JsonSaveSettingsRuleReservoir.h"
+
+namespace {
+
+using Key = std::pair<std::string, std::string>;
+using Maker = std::function<std::shared_ptr<JsonSaveSettings>(const std::shared_ptr<Element>&,
+                                                              const std::shared_ptr<Scenario>&)>;
+
+template <typename Writer>
+std::shared_ptr<JsonSaveSettings> makeWriter(const std::shared_ptr<Element>& element,
+                                             const std::shared_ptr<Scenario>& scenario) {
+  return std::make_shared<Writer>(element, scenario);
+}
+
+Key keyOf(ScenarioType scenario, ElementType element) {
+  return {Vocabulary::of(scenario).getName(), Vocabulary::of(element).getName()};
+}
+
+const JsonMakerTable<Maker, Key>& makers() {
+  using E = ElementType;
+  const ScenarioType rules = ScenarioType::ruleSimulator;
+  static const JsonMakerTable<Maker, Key> table(
+      {
+          {keyOf(rules, E::reservoir), makeWriter<JsonSaveSettingsRuleReservoir>},
+          {keyOf(rules, E::junction), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::basin), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::humanDemand), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::animalDemand), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::industrialDemand), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::irrigationDemand), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::drain), makeWriter<JsonSaveSettingsRule>},
+          {keyOf(rules, E::naturalLink), makeWriter<JsonSaveSettingsRuleLink>},
+          {keyOf(rules, E::artificialLink), makeWriter<JsonSaveSettingsRuleLink>},
+      },
+      "JsonSaveSettingsFactory::make(): invalid parameter key");
+  return table;
+}
+
+}  // namespace
+
+std::shared_ptr<JsonSaveSettings> JsonSaveSettingsFactory::make(
+    const std::shared_ptr<Element>& element, const std::shared_ptr<Scenario>& scenario) {
+  const Key key = {scenario->getScenarioType().getName(), element->getElementType().getName()};
+  return makers().at(key)(element, scenario);
+}
+
+std::vector<std::pair<std::string, std::string>> JsonSaveSettingsFactory::keys() {
+  return makers().keys();
+}

@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include <typeinfo>
+
+#include "core/ElementFactory.h"
+#include "core/RuleScenario.h"
+#include "core/Vocabulary.h"
+#include "operation/ExecutionContinuous.h"
+#include "project/JsonLoadElementFactory.h"
+#include "project/JsonLoadExecutionMethodFactory.h"
+#include "project/JsonLoadLinkAddonFactory.h"
+#include "project/JsonLoadRegressionTechniqueFactory.h"
+#include "project/JsonLoadReleaseRuleFactory.h"
+#include "project/JsonLoadScenarioFactory.h"
+#include "project/JsonLoadSettingsFactory.h"
+#include "project/JsonSaveElementFactory.h"
+#include "project/JsonSaveExecutionMethodFactory.h"
+#include "project/JsonSaveLink.h"
+#include "project/JsonSaveLinkAddonFactory.h"
+#include "project/JsonSaveRegressionTechniqueFactory.h"
+#include "project/JsonSaveReleaseRuleFactory.h"
+#include "project/JsonSaveReservoir.h"
+#include "project/JsonSaveRuleScenery.h"
+#include "project/JsonSaveSceneryFactory.h"
+#include "project/JsonSaveSettingsFactory.h"
+#include "rules/ReleaseRuleFactory.h"
+#include "rules/VolDepTwoStaticReleaseRule.h"
+#include "support/ExpectThrow.h"
+
+namespace {
+
+std::shared_ptr<Scenario> emptyScenario() {
+  const Interval interval(Date(2001, 1, 1), Date(2001, 12, 1),
+                          Vocabulary::of(Periodicity::monthly));
+  return std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 1, interval, "F");
+}
+
+}  // namespace
+
+// Each element type is made by its reader's factory under its name, and written by the writer of
+// its kind; nodes and links are told apart.
+TEST(ProjectFactories, EveryElementType) {
+  const auto scenario = emptyScenario();
+  std::vector<std::string> readable;
+  for (const auto& key : JsonLoadElementFactory::nodeKeys()) {
+    const auto element = JsonLoadElementFactory::makeNode(key, scenario)->getElement();
+    EXPECT_EQ(element->getElementType().getName(), key);
+    EXPECT_TRUE(std::dynamic_pointer_cast<Node>(element)) << key;
+    readable.push_back(key);
+  }
+  for (const auto& key : JsonLoadElementFactory::linkKeys()) {
+    const auto element = JsonLoadElementFactory::makeLink(key, scenario)->getElement();
+    EXPECT_EQ(element->getElementType().getName(), key);
+    EXPECT_TRUE(std::dynamic_pointer_cast<Link>(element)) << key;
+    readable.push_back(key);
+  }
+  std::sort(readable.begin(), readable.end());
+  EXPECT_EQ(readable, JsonSaveElementFactory::keys());
+  EXPECT_EQ(readable.size(), 10u);
+  const std::map<ElementType, const std::type_info*> writers = {
+      {ElementType::reservoir, &typeid(JsonSaveReservoir)},
+      {ElementType::junction, &typeid(JsonSaveNode)},
+      {ElementType::drain, &typeid(JsonSaveDemand)},
+      {ElementType::naturalLink, &typeid(JsonSaveNaturalLink)},
+      {ElementType::artificialLink, &typeid(JsonSaveLink)},
+  };
+  for (const auto& [type, writer] : writers) {
+    const auto made = JsonSaveElementFactory::make(ElementFactory::make(type), scenario);
+    EXPECT_EQ(typeid(*made), *writer) << Vocabulary::of(type).getName();
+  }
+}
+
+// Each simulation rule goes through its writer and its reader and comes back the same.
+TEST(ProjectFactories, EveryReleaseRuleRoundTrips) {
+  const auto scenario = emptyScenario();
+  EXPECT_EQ(JsonSaveReleaseRuleFactory::keys(), JsonLoadReleaseRuleFactory::keys());
+  EXPECT_EQ(JsonLoadReleaseRuleFactory::keys().size(), 9u);
+  for (const auto& key : JsonLoadReleaseRuleFactory::keys()) {
+    SCOPED_TRACE(key);
+    const auto rule = ReleaseRuleFactory::make(key);
+    const std::string text = JsonSaveReleaseRuleFactory::make(rule)->toJson();
+    const auto read = ReleaseRuleFactory::make(key);
+    JsonLoadReleaseRuleFactory::make(key, read, scenario)->load(nlohmann::json::parse(text));
+    EXPECT_EQ(JsonSaveReleaseRuleFactory::make(read)->toJson(), text);
+  }
+  // Each missing dependency of a two-reservoir rule is written null on its own.
+  auto node = ElementFactory::makeReservoir();
+  scenario->addElement(node, false, 3);
+  auto rule = std::make_shared<VolDepTwoStaticReleaseRule>();
+  rule->setReservoirDependency2(node);
+  EXPECT_EQ(JsonSaveReleaseRuleFactory::make(rule)->toJson(),
+            "{\"Reservoir1\":null,\"Reservoir2\":3,\"VolumePercentageD1\":[],"
+            "\"VolumePercentageD2\":[],\"Release\":[]}");
+}
+
+TEST(ProjectFactories, KindsReadAndWrittenToday) {
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(JsonLoadScenarioFactory::keys(), Names{"Simulador por regras"});
+  EXPECT_EQ(JsonSaveSceneryFactory::keys(), Names{"Simulador por regras"});
+  EXPECT_EQ(JsonLoadExecutionMethodFactory::keys(), (Names{"Contínuo", "Janela"}));
+  EXPECT_EQ(JsonSaveExecutionMethodFactory::keys(), (Names{"Contínuo", "Janela"}));
+  EXPECT_EQ(JsonLoadLinkAddonFactory::keys(), Names{"Nenhum"});
+  EXPECT_EQ(JsonSaveLinkAddonFactory::keys(), Names{"Nenhum"});
+  EXPECT_EQ(JsonLoadRegressionTechniqueFactory::keys(), Names{"CubicSpline"});
+  EXPECT_EQ(JsonSaveRegressionTechniqueFactory::keys(), Names{"CubicSpline"});
+  const auto settingsKeys = JsonSaveSettingsFactory::keys();
+  EXPECT_EQ(settingsKeys, JsonLoadSettingsFactory::keys());
+  ASSERT_EQ(settingsKeys.size(), 10u);
+  for (const auto& [scenarioType, elementType] : settingsKeys) {
+    EXPECT_EQ(scenarioType, "Simulador por regras");
+  }
+  const auto& methods = JsonLoadExecutionMethodFactory::make("Janela")->load(
+      nlohmann::json::object(), emptyScenario()->getInterval());
+  EXPECT_EQ(methods->getExecutionType().getType(), ExecutionType::windowed);
+}
+
+TEST(ProjectFactories, UnknownKeysHaveTheirMessages) {
+  const auto scenario = emptyScenario();
+  const auto link = std::static_pointer_cast<Link>(ElementFactory::makeNaturalLink());
+  const std::vector<std::pair<std::function<void()>, std::string>> misses = {
+      {[] { JsonLoadScenarioFactory::make("Curva de garantia"); },
+       "JsonLoadScenarioFactory::make(): invalid scenarioType"},
+      {[] { JsonSaveSceneryFactory::make(nullptr); },
+       "JsonSaveSceneryFactory::make(): invalid scenarioType"},
+      {[] { JsonLoadExecutionMethodFactory::make("Otimização"); },
+       "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType"},
+      {[&] { JsonLoadElementFactory::makeNode("Trecho", scenario); },
+       "JsonLoadElementFactory::make(): invalid elementType"},
+      {[&] { JsonLoadElementFactory::makeLink("Reservatório", scenario); },
+       "JsonLoadElementFactory::make(): invalid elementType"},
+      {[&] { JsonLoadLinkAddonFactory::make("Propulsão", link); },
+       "JsonLoadLinkAddonFactory::make(): invalid linkAddonType"},
+      {[] { JsonLoadRegressionTechniqueFactory::make("Linear"); },
+       "JsonLoadRegressionTechniqueFactory::make(): invalid regressionType"},
+      {[] { JsonSaveRegressionTechniqueFactory::make(nullptr); },
+       "JsonSaveRegressionTechniqueFactory::make(): invalid regressionType"},
+      {[&] {
+         JsonLoadReleaseRuleFactory::make("Liberação via KNN de regressão", nullptr, scenario);
+       },
+       "JsonLoadReleaseRuleFactory::make(): invalid ReleaseRuleType"},
+  };
+  for (const auto& [make, message] : misses) {
+    SCOPED_TRACE(message);
+    EXPECT_THROW_TEXT(make(), std::invalid_argument, message);
+  }
+}
+
+TEST(ProjectFactories, WritersWithoutWhatTheyNeed) {
+  EXPECT_EQ(JsonSaveRuleScenery(nullptr).toJson(), "");
+  const auto node = std::static_pointer_cast<Node>(ElementFactory::makeJunction());
+  EXPECT_THROW_TEXT(JsonSaveNode(node, nullptr).toJsonScenarioConf(), std::runtime_error,
+                    "JsonSaveElement: scenario pointer is nullptr!");
+  const auto loose = std::static_pointer_cast<Link>(ElementFactory::makeArtificialLink());
+  EXPECT_THROW_TEXT(JsonSaveLink(loose, emptyScenario()).toJson(), std::invalid_argument,
+                    "JsonSaveLink::toJson(): the link lacks an end");
+}

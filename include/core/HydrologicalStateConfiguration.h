@@ -28,6 +28,7 @@ class HydrologicalStateConfiguration {
   // True when the shares add up to at most 1.0 (within 1e-06).
   bool isXValuesValid() const;
 
+  // "Sem" by default.
   const Enum<HydrologicalStateType>& getCurrentHydrologicalStateType() const {
     return currentHydrologicalStateType;
   }

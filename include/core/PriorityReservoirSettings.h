@@ -23,6 +23,7 @@ class PriorityReservoirSettings
   };
   using Zones = std::vector<HydrologicalZone>;
 
+  // Whether the reservoir counts in the system's hydrological state.
   bool getIsHydrologicalStateSystem() const { return isHydrologicalStateSystem; }
   void setIsHydrologicalStateSystem(bool value) { isHydrologicalStateSystem = value; }
 
@@ -42,6 +43,7 @@ class PriorityReservoirSettings
   void addHydrologicalZone(const HydrologicalZone& zone);
   // Removes the top zone; false when there was none.
   bool removeLastHydrologicalZone();
+  // Drops every zone.
   void cleanHydrologicalZones() { zones.clear(); }
   // Gives the zone at index the priority. Throws std::out_of_range
   // "PriorityReservoirSettings::setPriorityOfHydrologicalZone(): invalid index" past the last

@@ -34,6 +34,7 @@ class PriorityScenario : public Scenario {
   // Appends getNumOfStates() default pairs of priority and goal to the element's settings.
   void initPrioritySeriesOfElementSettings(const std::shared_ptr<Element>& element);
 
+  // The scenario's hydrological states, shared with the caller for editing.
   const std::shared_ptr<HydrologicalStateConfiguration>& getHydrologicalStateConfiguration() const {
     return hydrologicalStateConfiguration;
   }

@@ -48,8 +48,11 @@ class HydrologicalStateCalculator {
 
   // The configured type as its plain number (0 to 3).
   int getHydrologicalStateType() const { return hydrologicalStateType; }
+  // The state of the last date, 0 the driest.
   unsigned int getHydrologicIndex() const { return hydrologicIndex; }
-  double getVolMaxReservoirs() const { return volMaxReservoirs; }  // hm³
+  // The capacity of the system, hm³.
+  double getVolMaxReservoirs() const { return volMaxReservoirs; }
+  // The zones of the system's states, lowest first.
   const std::vector<Zone>& getZones() const { return zones; }
 
   // The priority and the goal series of the element in the present state. Throw std::out_of_range

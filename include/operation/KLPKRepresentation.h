@@ -11,8 +11,10 @@ struct _lprec;
 
 // A linear programme held in memory, built by name through KLPKUtils and handed to lp_solve only
 // when it is solved. Rows and columns are numbered from 0 in the order they were added and found
-// by name through a hash index. Rows are kept sparse; the programme lp_solve receives has every
-// row, in order, followed by one row per bound of each column (see executeSimplex()).
+// by name through a hash index; rows are kept sparse. lp_solve receives every row in order, then
+// the bounds of each column as rows of their own (at most its upper value unless that is
+// unlimited, then at least its lower value), except for the columns whose names end in "volGoal"
+// or "_s", which rest on lp_solve's default bounds (0 to infinity).
 class KLPKRepresentation {
  public:
   enum KLPK_OPT_DIRECTION_FLAG { KLPK_MAX = 0, KLPK_MIN = 1 };
@@ -27,6 +29,7 @@ class KLPKRepresentation {
   // Drops every row, column and objective coefficient; the name, direction and last solve stay.
   void erase();
 
+  // The name, the direction (maximise by default) and the reporting of the programme.
   const std::string& getProblemName() const { return problemName; }
   void setProblemName(const std::string& name) { problemName = name; }
   KLPK_OPT_DIRECTION_FLAG getOptDirection() const { return klpkOptDirectionFlag; }
@@ -35,6 +38,7 @@ class KLPKRepresentation {
   // With KLPK_ON lp_solve reports at its normal level (on stderr); with KLPK_OFF it is silent.
   void setTerminalOutput(KLPK_TERMINAL_OUTPUT flag) { klpkTerminalOutput = flag; }
 
+  // The numbers of columns and rows.
   int getNumberOfVariables() const { return static_cast<int>(variables.size()); }
   int getNumberOfRows() const { return static_cast<int>(rows.size()); }
   // The 0-based index of the column or row of that name, or -1.

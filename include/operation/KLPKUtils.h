@@ -24,11 +24,14 @@ class KLPKUtils {
  public:
   // A new, empty programme, or null when there is no memory for it; the caller owns it.
   static KLPKRepresentation* slp_create_prob();
+  // Frees a programme made by slp_create_prob().
   static void slp_delete_prob(KLPKRepresentation* problem);
   // Drops every row and column.
   static void sglp_erase_prob(KLPKRepresentation* problem);
+  // Lets lp_solve report on stderr (KLPK_ON) or keeps it silent (KLPK_OFF).
   static void slp_term_out(KLPKRepresentation* problem,
                            KLPKRepresentation::KLPK_TERMINAL_OUTPUT flag);
+  // Names the programme.
   static void slp_set_prob_name(KLPKRepresentation* problem, const std::string& name);
   // 2 maximises; any other value minimises.
   static void slp_set_obj_dir(KLPKRepresentation* problem, int direction);

@@ -32,6 +32,7 @@ class CellData {
   bool isEmpty() const;
 };
 
+// A whole-number cell ("Int"), such as a count of months.
 class CellDataInt : public CellData {
  public:
   TypeOfData getTypeOfData() const override { return TypeOfData::intType; }
@@ -45,6 +46,7 @@ class CellDataInt : public CellData {
   long long value = -999;
 };
 
+// A floating cell ("Double"), such as a percentage or a volume.
 class CellDataDouble : public CellData {
  public:
   TypeOfData getTypeOfData() const override { return TypeOfData::doubleType; }
@@ -58,6 +60,7 @@ class CellDataDouble : public CellData {
   double value = -999.0;
 };
 
+// A text cell ("String"), such as an element's name.
 class CellDataString : public CellData {
  public:
   TypeOfData getTypeOfData() const override { return TypeOfData::stringType; }

@@ -48,6 +48,7 @@ class SimulationMetric {
     Interval interval;
     unsigned int runIndex;
     std::vector<Date> dates;
+    std::vector<unsigned int> julians;
     std::shared_ptr<HydrologicalBalance> balance;
   };
 

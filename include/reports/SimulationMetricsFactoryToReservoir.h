@@ -15,6 +15,7 @@ class SimulationMetricsFactoryToReservoir : public SimulationMetricsFactory {
   // The kinds of a reservoir, in the order of their numbers.
   static std::vector<SimulationMetricsTypeDefinition> keys();
 
+  // make() and keys() through the category's factory object.
   std::shared_ptr<SimulationMetric> makeMetric(const SimulationMetricsEnum& kind) const override {
     return make(kind);
   }

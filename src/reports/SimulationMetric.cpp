@@ -12,14 +12,28 @@ SimulationMetric::Run::Run(const Interval& interval, unsigned int runIndex)
       runIndex(runIndex),
       balance(HydrologicalBalanceFactory::make(interval.getPeriodicity().getType())) {
   dates.reserve(interval.period());
-  PeriodWalker::forEach(interval, [this](const Date& date) { dates.push_back(date); });
+  PeriodWalker::forEach(interval, [this](const Date& date) {
+    dates.push_back(date);
+    julians.push_back(Date::julian(date));
+  });
 }
 
 std::vector<double> SimulationMetric::Run::read(const Element& element, SerieType type) const {
-  const Serie& serie = *element.getOutputSerie(type, runIndex);
+  const Serie::Values& stored = element.getOutputSerie(type, runIndex)->getMapOfJulianToValues();
   std::vector<double> values;
-  values.reserve(dates.size());
-  for (const Date& date : dates) values.push_back(serie.getValue(date));
+  values.reserve(julians.size());
+  if (julians.empty()) return values;
+  // Stored days and window days both ascend: one pass over each gives what Serie::getValue
+  // would give date by date, without a search per date.
+  const auto before = [](const Serie::Values::Entry& e, unsigned int julian) {
+    return e.first < julian;
+  };
+  auto entry = std::lower_bound(stored.begin(), stored.end(), julians.front(), before);
+  for (unsigned int julian : julians) {
+    while (entry != stored.end() && entry->first < julian) ++entry;
+    const bool found = entry != stored.end() && entry->first == julian;
+    values.push_back(found ? entry->second : Serie::kEmptyValue);
+  }
   return values;
 }
 

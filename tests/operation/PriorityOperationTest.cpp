@@ -11,7 +11,6 @@ namespace {
 
 const Date kJan(2001, 1, 1);
 const Date kFeb(2001, 2, 1);
-const Date kMar(2001, 3, 1);
 
 std::shared_ptr<PriorityOperation> operationOf(const PriorityScenario& scenario) {
   return std::static_pointer_cast<PriorityOperation>(scenario.getCurrentOperationSystem());

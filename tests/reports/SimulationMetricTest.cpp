@@ -258,6 +258,8 @@ TEST(SimulationMetrics, OneDateWindowComparesNoPairs) {
   EXPECT_EQ(calc(T::resilienceOfType1, reservoir), kEmpty);
   EXPECT_EQ(calc(T::frequencyUnderNeededDemand, demand), 100.0);
   EXPECT_EQ(calc(T::maxTimeUnderNeededDemand, demand), 1.0);
+  // "Demanda atendida" was never written: its one value reads as missing.
+  EXPECT_EQ(calc(T::minimumFlowProvided, demand), kEmpty);
 }
 
 TEST(SimulationMetrics, EmptyCellForAnotherClassOrRunAndFailuresOfMissingResults) {

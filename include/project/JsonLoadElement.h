@@ -18,6 +18,7 @@ class JsonLoadElement {
   using ExtraInfo = std::function<void(const nlohmann::json& element, unsigned int elementId,
                                        const std::shared_ptr<Scenario>&)>;
 
+  // A reader into element, a new element that joins scenario as it is read.
   JsonLoadElement(std::shared_ptr<Element> element, std::shared_ptr<Scenario> scenario);
   virtual ~JsonLoadElement() = default;
 
@@ -26,6 +27,7 @@ class JsonLoadElement {
   // reader factories for a kind without a reader, and the model's exceptions for values it
   // refuses.
   virtual void load(const nlohmann::json& item) = 0;
+  // The element read into.
   const std::shared_ptr<Element>& getElement() const { return element; }
 
   // Sets the function called with every element object read from now on, after its enable flag;

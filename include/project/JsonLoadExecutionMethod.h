@@ -12,6 +12,7 @@
 // method have none, so this class reads both; methods with keys of their own derive from it.
 class JsonLoadExecutionMethod {
  public:
+  // A reader of methods of type.
   explicit JsonLoadExecutionMethod(ExecutionType type);
   virtual ~JsonLoadExecutionMethod() = default;
 

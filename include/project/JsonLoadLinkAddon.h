@@ -11,6 +11,7 @@
 // from it.
 class JsonLoadLinkAddon {
  public:
+  // A reader of an add-on of type for link.
   JsonLoadLinkAddon(LinkAddonType type, std::shared_ptr<Link> link);
   virtual ~JsonLoadLinkAddon() = default;
 

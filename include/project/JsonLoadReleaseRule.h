@@ -12,6 +12,7 @@ class Scenario;
 // The keys of a rule are required.
 class JsonLoadReleaseRule {
  public:
+  // A reader into rule, a rule of the reader's type held in scenario.
   JsonLoadReleaseRule(std::shared_ptr<ReleaseRule> rule, std::shared_ptr<Scenario> scenario);
   virtual ~JsonLoadReleaseRule() = default;
 

@@ -11,6 +11,7 @@
 // (JsonLoadSettingsFactory).
 class JsonLoadSettings {
  public:
+  // A reader into the settings that scenario holds for element.
   JsonLoadSettings(std::shared_ptr<Element> element, std::shared_ptr<Scenario> scenario);
   virtual ~JsonLoadSettings() = default;
 

@@ -13,6 +13,7 @@
 template <typename Maker, typename Key = std::string>
 class JsonMakerTable {
  public:
+  // The rows, and the text of the exception for a key without a row.
   JsonMakerTable(std::initializer_list<std::pair<const Key, Maker>> rows, std::string missText)
       : makers(rows), missText(std::move(missText)) {}
 

@@ -17,6 +17,7 @@ class JsonSaveElement {
   using ExtraInfo =
       std::function<std::string(unsigned int elementId, const std::shared_ptr<Scenario>&)>;
 
+  // A writer of element, whose settings are those of scenario.
   JsonSaveElement(std::shared_ptr<Element> element, std::shared_ptr<Scenario> scenario);
   virtual ~JsonSaveElement() = default;
 

@@ -10,6 +10,7 @@
 // kind and element kind has its writer (JsonSaveSettingsFactory).
 class JsonSaveSettings {
  public:
+  // A writer of the settings that scenario holds for element.
   JsonSaveSettings(std::shared_ptr<Element> element, std::shared_ptr<Scenario> scenario);
   virtual ~JsonSaveSettings() = default;
 

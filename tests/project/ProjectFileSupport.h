@@ -7,6 +7,7 @@
 #include <sstream>
 #include <string>
 
+#include "support/TemporaryFolder.h"
 #include "core/ConfigurationHeader.h"
 #include "core/ScenarioManager.h"
 #include "project/JsonLoadElement.h"
@@ -14,24 +15,10 @@
 
 namespace projectfile {
 
-// A folder of its own under the system's temporary folder, removed with everything in it.
-class TemporaryFolder {
+// The test's own temporary folder.
+class TemporaryFolder : public ::TemporaryFolder {
  public:
-  TemporaryFolder() {
-    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    path = std::filesystem::temp_directory_path() /
-           ("kova_project_" + std::string(test->test_suite_name()) + "_" + test->name());
-    std::filesystem::remove_all(path);
-    std::filesystem::create_directories(path);
-  }
-  ~TemporaryFolder() { std::filesystem::remove_all(path); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  std::string file(const std::string& name) const { return (path / name).string(); }
-
- private:
-  std::filesystem::path path;
+  TemporaryFolder() : ::TemporaryFolder("kova_project_") {}
 };
 
 inline std::string readFile(const std::string& path) {

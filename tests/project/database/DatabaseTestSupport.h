@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "support/TemporaryFolder.h"
 #include "core/ConfigurationHeader.h"
 #include "core/Reservoir.h"
 #include "core/ScenarioManager.h"
@@ -18,24 +19,10 @@
 
 namespace databasetest {
 
-// A folder of its own under the system's temporary folder, removed with everything in it.
-class TemporaryFolder {
+// The test's own temporary folder.
+class TemporaryFolder : public ::TemporaryFolder {
  public:
-  TemporaryFolder() {
-    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    path = std::filesystem::temp_directory_path() /
-           ("kova_database_" + std::string(test->test_suite_name()) + "_" + test->name());
-    std::filesystem::remove_all(path);
-    std::filesystem::create_directories(path);
-  }
-  ~TemporaryFolder() { std::filesystem::remove_all(path); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  std::string file(const std::string& name) const { return (path / name).string(); }
-
- private:
-  std::filesystem::path path;
+  TemporaryFolder() : ::TemporaryFolder("kova_database_") {}
 };
 
 // Everything a project holds in series and curves, by element name: a round trip must give it

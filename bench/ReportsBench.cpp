@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "GeneratedSystem.h"
 #include "common/PeriodWalker.h"
 #include "core/Demand.h"
 #include "core/ElementSets.h"
@@ -19,83 +20,22 @@
 
 namespace {
 
-// A river system run once for the reports to read: 50 reservoirs in a binary tree of
-// tributaries, each releasing a constant flow through a junction that serves two demands (one
-// returning 20 % downstream), 100 demands in all, and a drain at the mouth, over 1,200 months.
-// Reservoirs are small enough to empty and to spill, and demands to fail, now and then.
-class RunSystem {
- public:
-  RunSystem() : net(Interval(Date(1901, 1, 1), Date(2000, 12, 1), monthly())) {
-    std::vector<std::shared_ptr<Node>> confluences;
-    for (int i = 0; i < 50; ++i) {
-      auto reservoir = addReservoir(i);
-      auto junction = net.node(ElementType::junction);
-      link(reservoir, junction);
-      sendAll(reservoir);
-      auto supplied = net.node(ElementType::irrigationDemand);
-      auto returning = std::static_pointer_cast<Demand>(net.node(ElementType::humanDemand));
-      supplied->getInputSerie(SerieType::demand)->fill(4.0);
-      returning->getInputSerie(SerieType::demand)->fill(3.0);
-      auto toSupplied = link(junction, supplied, ElementType::artificialLink);
-      auto toReturning = link(junction, returning, ElementType::artificialLink);
-      confluences.push_back(net.node(ElementType::junction));
-      auto onward = link(junction, confluences.back());
-      returning->setDemandReturnPercentage(link(returning, confluences.back()), 20.0);
-      net.allocation(junction, {{id(junction), id(toSupplied), id(toReturning), id(onward)},
-                                {3, 2, 1, 0},
-                                {100, 2, 1, 97}});
-      reservoirs.push_back(reservoir);
-    }
-    for (int i = 1; i < 50; ++i) link(confluences[i], reservoirs[(i - 1) / 2]);
-    link(confluences[0], net.node(ElementType::drain));
-    for (const auto& junction : confluences) sendAll(junction);
-    if (!net.scenario->run(nullptr)) throw std::runtime_error("the generated system did not run");
-  }
-
-  NetworkBuilder net;
-
- private:
-  static const EnumPeriodicity& monthly() { return Vocabulary::of(Periodicity::monthly); }
-  static double id(const std::shared_ptr<Element>& e) { return e->getId(); }
-
-  std::shared_ptr<Link> link(const std::shared_ptr<Node>& up, const std::shared_ptr<Node>& down,
-                             ElementType type = ElementType::naturalLink) {
-    auto created = net.link(up, down, 1000.0, type);
-    created->getInputSerie(SerieType::transitLossPercentage)->fill(1.0);
-    return created;
-  }
-
-  void sendAll(const std::shared_ptr<Node>& node) {
-    for (const auto& out : node->getDownstreamLinks()) {
-      net.allocation(node, {{id(node), id(out)}, {100, 100}});
-    }
-  }
-
-  std::shared_ptr<Node> addReservoir(int index) {
-    auto reservoir = std::static_pointer_cast<Reservoir>(net.node(ElementType::reservoir));
-    ReservoirInfo& info = reservoir->getReservoirInfo();
-    info.cav = {{500, 0, 0}, {505, 20, 50}, {510, 45, 200}, {515, 80, 500}, {520, 120, 900}};
-    info.minVol = 50;
-    info.maxVol = 300;
-    info.initVol = 200;
-    PeriodWalker::forEach(net.scenario->getInterval(), [&](const Date& date) {
-      const double seasonal = 10.0 + 9.5 * std::sin((date.getMonth() + index) * 0.5236);
-      reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->setValue(date, seasonal);
-      reservoir->getInputSerie(SerieType::evaporation)->setValue(date, 150.0);
-      reservoir->getInputSerie(SerieType::precipitation)->setValue(date, 60.0);
-    });
-    auto rule = std::make_shared<ConstReleaseRule>();
-    rule->setRelease(9.0);
-    Scenario::getSettings<ReservoirRuleSettings>(reservoir, net.scenario->getSettingsManager())
-        ->setRule(rule);
-    return reservoir;
-  }
-
-  std::vector<std::shared_ptr<Node>> reservoirs;
-};
-
-RunSystem& system() {
-  static RunSystem run;
+// The generated river system, run once for the reports to read. Reservoirs are small enough to
+// empty and to spill, and demands to fail, now and then.
+GeneratedSystem& system() {
+  static GeneratedSystem run = [] {
+    GeneratedSystem::Shape shape;
+    shape.suppliedDemand = 4.0;
+    shape.returningDemand = 3.0;
+    shape.maxVol = 300;
+    shape.initVol = 200;
+    shape.amplitude = 9.5;
+    shape.evaporation = 150.0;
+    shape.release = 9.0;
+    return GeneratedSystem(100, shape);
+  }();
+  static const bool ran = run.net.scenario->run(nullptr);
+  if (!ran) throw std::runtime_error("the generated system did not run");
   return run;
 }
 

@@ -51,3 +51,17 @@ class EnumSceneryIndiatorFactoryByType {
   // Throws "Error: invalid scenarioType object.".
   static Enum<SceneryIndicator> make(const SceneryIndicator& type);
 };
+
+class SceneryTypeFactoryByString {
+ public:
+  // The scenario type of a stored name. Throws "SceneryTypeFactoryByString::make(): invalid
+  // ScenarioType".
+  static const Enum<ScenarioType>& make(const std::string& name);
+};
+
+class ExecutionTypeFactoryByString {
+ public:
+  // The execution type of a stored name. Throws "ExecutionTypeFactoryByString::make(): invalid
+  // executionType".
+  static const Enum<ExecutionType>& make(const std::string& name);
+};

@@ -7,8 +7,8 @@
 #include "core/LinkAddon.h"
 
 // Reads a link's add-on object into a new add-on of its type, which then replaces the link's.
-// The add-on "Nenhum" has no keys of its own and is read by this class; add-ons with keys derive
-// from it.
+// The add-ons "Nenhum" and "Propagação" have no keys of their own and are read by this class;
+// add-ons with keys derive from it.
 class JsonLoadLinkAddon {
  public:
   // A reader of an add-on of type for link.

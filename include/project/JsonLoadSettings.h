@@ -40,3 +40,11 @@ class JsonLoadSettingsRuleLink : public JsonLoadSettings {
   using JsonLoadSettings::JsonLoadSettings;
   void load(const nlohmann::json& object) const override;
 };
+
+// Reads the settings of a junction, basin or link in a priority scenario: the object has no keys,
+// as such elements take no part in the priorities.
+class JsonLoadSettingsPriorityPassive : public JsonLoadSettings {
+ public:
+  using JsonLoadSettings::JsonLoadSettings;
+  void load(const nlohmann::json& object) const override;
+};

@@ -39,3 +39,11 @@ class JsonSaveSettingsRuleLink : public JsonSaveSettings {
   using JsonSaveSettings::JsonSaveSettings;
   std::string toJson() const override;
 };
+
+// Writes the settings of a junction, basin or link in a priority scenario: {}, as such elements
+// take no part in the priorities.
+class JsonSaveSettingsPriorityPassive : public JsonSaveSettings {
+ public:
+  using JsonSaveSettings::JsonSaveSettings;
+  std::string toJson() const override;
+};

@@ -45,3 +45,13 @@ Enum<ScenarioType> EnumSceneryTypeFactoryByType::make(const ScenarioType& type) 
 Enum<SceneryIndicator> EnumSceneryIndiatorFactoryByType::make(const SceneryIndicator& type) {
   return found(Vocabulary::sceneryIndicators().findByType(type), kInvalidScenarioType);
 }
+
+const Enum<ScenarioType>& SceneryTypeFactoryByString::make(const std::string& name) {
+  return found(Vocabulary::scenarioTypes().findByName(name),
+               "SceneryTypeFactoryByString::make(): invalid ScenarioType");
+}
+
+const Enum<ExecutionType>& ExecutionTypeFactoryByString::make(const std::string& name) {
+  return found(Vocabulary::executionTypes().findByName(name),
+               "ExecutionTypeFactoryByString::make(): invalid executionType");
+}

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "core/Vocabulary.h"
+#include "project/JsonLoadLinkAddonPumping.h"
 #include "project/JsonMakerTable.h"
 
 namespace {
@@ -19,6 +20,10 @@ const JsonMakerTable<Maker>& makers() {
       {
           {Vocabulary::of(LinkAddonType::none).getName(),
            makeReader<JsonLoadLinkAddon, LinkAddonType::none>},
+          {Vocabulary::of(LinkAddonType::propagation).getName(),
+           makeReader<JsonLoadLinkAddon, LinkAddonType::propagation>},
+          {Vocabulary::of(LinkAddonType::pumping).getName(),
+           makeReader<JsonLoadLinkAddonPumping, LinkAddonType::pumping>},
       },
       "JsonLoadLinkAddonFactory::make(): invalid linkAddonType");
   return table;

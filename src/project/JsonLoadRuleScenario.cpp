@@ -5,13 +5,17 @@
 #include "core/RuleScenario.h"
 #include "project/JsonLoadHelper.h"
 
-void JsonLoadRuleScenario::specificLoad(const nlohmann::json& object, Scenario& scenario) const {
+void JsonLoadRuleScenario::loadPumpingConfig(const nlohmann::json& object, Scenario& scenario) {
   bool found = false;
   const nlohmann::json& deficits =
       JsonLoadHelper::findOptional(found, object, "pumpingConfig", "demandDeficits");
   if (!found) return;
   const auto rows = JsonLoadHelper::get<std::vector<std::vector<double>>>(deficits);
   scenario.setPumpingCostsConfiguration(rows.empty() ? std::vector<double>() : rows.front());
+}
+
+void JsonLoadRuleScenario::specificLoad(const nlohmann::json& object, Scenario& scenario) const {
+  loadPumpingConfig(object, scenario);
 }
 
 std::shared_ptr<Scenario> JsonLoadRuleScenario::getInstance(

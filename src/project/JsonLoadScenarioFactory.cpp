@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "core/Vocabulary.h"
+#include "project/JsonLoadPriorityScenario.h"
 #include "project/JsonLoadRuleScenario.h"
 #include "project/JsonMakerTable.h"
 
@@ -19,6 +20,8 @@ const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeReader<JsonLoadRuleScenario>},
+          {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),
+           makeReader<JsonLoadPriorityScenario>},
       },
       "JsonLoadScenarioFactory::make(): invalid scenarioType");
   return table;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/LinkRuleSettings.h"
+#include "core/PriorityPassiveSettings.h"
 #include "project/JsonLoadHelper.h"
 
 JsonLoadSettings::JsonLoadSettings(std::shared_ptr<Element> element,
@@ -14,4 +15,10 @@ void JsonLoadSettingsRuleLink::load(const nlohmann::json& object) const {
   JsonLoadHelper::applyOptional<std::vector<double>>(
       object, "bidirectionalAllocation",
       [&](const std::vector<double>& values) { settings->setValues(values); });
+}
+
+// Nothing is read, but the settings are looked up all the same, so that an element whose scenario
+// holds settings of another kind is refused.
+void JsonLoadSettingsPriorityPassive::load(const nlohmann::json&) const {
+  getSettings<PriorityPassiveSettings>();
 }

@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "core/Vocabulary.h"
+#include "project/JsonLoadSettingsPriorityDemand.h"
+#include "project/JsonLoadSettingsPriorityReservoir.h"
 #include "project/JsonLoadSettingsRule.h"
 #include "project/JsonLoadSettingsRuleReservoir.h"
 #include "project/JsonMakerTable.h"
@@ -26,6 +28,7 @@ Key keyOf(ScenarioType scenario, ElementType element) {
 const JsonMakerTable<Maker, Key>& makers() {
   using E = ElementType;
   const ScenarioType rules = ScenarioType::ruleSimulator;
+  const ScenarioType priorities = ScenarioType::priorityOptimizer;
   static const JsonMakerTable<Maker, Key> table(
       {
           {keyOf(rules, E::reservoir), makeReader<JsonLoadSettingsRuleReservoir>},
@@ -38,6 +41,16 @@ const JsonMakerTable<Maker, Key>& makers() {
           {keyOf(rules, E::drain), makeReader<JsonLoadSettingsRule>},
           {keyOf(rules, E::naturalLink), makeReader<JsonLoadSettingsRuleLink>},
           {keyOf(rules, E::artificialLink), makeReader<JsonLoadSettingsRuleLink>},
+          {keyOf(priorities, E::reservoir), makeReader<JsonLoadSettingsPriorityReservoir>},
+          {keyOf(priorities, E::junction), makeReader<JsonLoadSettingsPriorityPassive>},
+          {keyOf(priorities, E::basin), makeReader<JsonLoadSettingsPriorityPassive>},
+          {keyOf(priorities, E::humanDemand), makeReader<JsonLoadSettingsPriorityDemand>},
+          {keyOf(priorities, E::animalDemand), makeReader<JsonLoadSettingsPriorityDemand>},
+          {keyOf(priorities, E::industrialDemand), makeReader<JsonLoadSettingsPriorityDemand>},
+          {keyOf(priorities, E::irrigationDemand), makeReader<JsonLoadSettingsPriorityDemand>},
+          {keyOf(priorities, E::drain), makeReader<JsonLoadSettingsPriorityDemand>},
+          {keyOf(priorities, E::naturalLink), makeReader<JsonLoadSettingsPriorityPassive>},
+          {keyOf(priorities, E::artificialLink), makeReader<JsonLoadSettingsPriorityPassive>},
       },
       "JsonSaveSettingsFactory::make(): invalid parameter key");
   return table;

@@ -4,6 +4,7 @@
 
 #include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
+#include "project/JsonSaveLinkAddonPumping.h"
 
 namespace {
 
@@ -18,6 +19,8 @@ const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(LinkAddonType::none).getName(), makeWriter<JsonSaveLinkAddon>},
+          {Vocabulary::of(LinkAddonType::propagation).getName(), makeWriter<JsonSaveLinkAddon>},
+          {Vocabulary::of(LinkAddonType::pumping).getName(), makeWriter<JsonSaveLinkAddonPumping>},
       },
       "JsonSaveLinkAddonFactory::make(): invalid linkAddonType");
   return table;

@@ -2,9 +2,14 @@
 
 using B = JsonSaveBuilder;
 
-JsonSaveBuilder::Members JsonSaveRuleScenery::toJsonSpecific() const {
+std::string JsonSaveRuleScenery::toJsonPumpingConfig(const Scenario& scenario) {
   const std::string deficits =
-      B::makeVectorOfFloatingValues(getScenario()->getPumpingCostsConfiguration());
-  return {B::makeJsonKeyValue("pumpingConfig", B::makeObject({B::makeJsonKeyValue(
-                                                   "demandDeficits", "[" + deficits + "]")}))};
+      B::makeVectorOfFloatingValues(scenario.getPumpingCostsConfiguration());
+  return B::makeJsonKeyValue(
+      "pumpingConfig",
+      B::makeObject({B::makeJsonKeyValue("demandDeficits", "[" + deficits + "]")}));
+}
+
+JsonSaveBuilder::Members JsonSaveRuleScenery::toJsonSpecific() const {
+  return {toJsonPumpingConfig(*getScenario())};
 }

@@ -4,6 +4,7 @@
 
 #include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
+#include "project/JsonSavePriorityScenery.h"
 #include "project/JsonSaveRuleScenery.h"
 
 namespace {
@@ -19,6 +20,8 @@ const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeWriter<JsonSaveRuleScenery>},
+          {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),
+           makeWriter<JsonSavePriorityScenery>},
       },
       "JsonSaveSceneryFactory::make(): invalid scenarioType");
   return table;

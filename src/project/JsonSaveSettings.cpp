@@ -1,6 +1,7 @@
 #include "project/JsonSaveSettings.h"
 
 #include "core/LinkRuleSettings.h"
+#include "core/PriorityPassiveSettings.h"
 #include "project/JsonSaveBuilder.h"
 
 using B = JsonSaveBuilder;
@@ -13,4 +14,11 @@ std::string JsonSaveSettingsRuleLink::toJson() const {
   const auto& values = getSettings<LinkRuleSettings>()->getValues();
   return B::makeObject(
       {B::makeJsonKeyValue("bidirectionalAllocation", B::makeVectorOfFloatingValues(values))});
+}
+
+// The settings are looked up all the same, so that an element whose scenario holds settings of
+// another kind is refused rather than written as if it had none.
+std::string JsonSaveSettingsPriorityPassive::toJson() const {
+  getSettings<PriorityPassiveSettings>();
+  return B::makeObject({});
 }

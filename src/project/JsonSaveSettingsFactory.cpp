@@ -4,6 +4,8 @@
 
 #include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
+#include "project/JsonSaveSettingsPriorityDemand.h"
+#include "project/JsonSaveSettingsPriorityReservoir.h"
 #include "project/JsonSaveSettingsRule.h"
 #include "project/JsonSaveSettingsRuleReservoir.h"
 
@@ -26,6 +28,7 @@ Key keyOf(ScenarioType scenario, ElementType element) {
 const JsonMakerTable<Maker, Key>& makers() {
   using E = ElementType;
   const ScenarioType rules = ScenarioType::ruleSimulator;
+  const ScenarioType priorities = ScenarioType::priorityOptimizer;
   static const JsonMakerTable<Maker, Key> table(
       {
           {keyOf(rules, E::reservoir), makeWriter<JsonSaveSettingsRuleReservoir>},
@@ -38,6 +41,16 @@ const JsonMakerTable<Maker, Key>& makers() {
           {keyOf(rules, E::drain), makeWriter<JsonSaveSettingsRule>},
           {keyOf(rules, E::naturalLink), makeWriter<JsonSaveSettingsRuleLink>},
           {keyOf(rules, E::artificialLink), makeWriter<JsonSaveSettingsRuleLink>},
+          {keyOf(priorities, E::reservoir), makeWriter<JsonSaveSettingsPriorityReservoir>},
+          {keyOf(priorities, E::junction), makeWriter<JsonSaveSettingsPriorityPassive>},
+          {keyOf(priorities, E::basin), makeWriter<JsonSaveSettingsPriorityPassive>},
+          {keyOf(priorities, E::humanDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
+          {keyOf(priorities, E::animalDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
+          {keyOf(priorities, E::industrialDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
+          {keyOf(priorities, E::irrigationDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
+          {keyOf(priorities, E::drain), makeWriter<JsonSaveSettingsPriorityDemand>},
+          {keyOf(priorities, E::naturalLink), makeWriter<JsonSaveSettingsPriorityPassive>},
+          {keyOf(priorities, E::artificialLink), makeWriter<JsonSaveSettingsPriorityPassive>},
       },
       "JsonSaveSettingsFactory::make(): invalid parameter key");
   return table;

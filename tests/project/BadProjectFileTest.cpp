@@ -31,6 +31,11 @@ std::string golden(const std::string& from, const std::string& to) {
   return replaced(projectfile::readFile(projectfile::goldenPath()), from, to);
 }
 
+// The golden priority project with the first occurrence of from replaced by to.
+std::string priorityGolden(const std::string& from, const std::string& to) {
+  return replaced(projectfile::readFile(projectfile::priorityGoldenPath()), from, to);
+}
+
 const std::string kInvalid = "Invalid json file";
 
 std::string typeError(const std::string& expected, const std::string& found) {
@@ -54,7 +59,7 @@ TEST_F(BadProjectFile, EachFlawHasItsMessage) {
       bad<json::type_error>("scenarios not an array", "{\"scenarios\":{}}",
                             typeError("array", "object")),
       bad<std::invalid_argument>("scenario type",
-                                 golden("Simulador por regras", "Otimizador por prioridades"),
+                                 golden("Simulador por regras", "Curva de garantia"),
                                  "JsonLoadScenarioFactory::make(): invalid scenarioType"),
       bad<std::invalid_argument>("method type", golden("\"Janela\"", "\"Otimização\""),
                                  "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType"),
@@ -112,6 +117,87 @@ TEST_F(BadProjectFile, EachFlawHasItsMessage) {
       bad<std::invalid_argument>("hemisphere", golden("\"Sul\"", "\"Leste\""),
                                  "invalid HemisphereType value"),
       bad<JsonLoadException>("colour without blue", golden("\"b\":30,", ""), kInvalid),
+  };
+  for (const BadFile& file : files) {
+    SCOPED_TRACE(file.name);
+    file.check();
+  }
+}
+
+// The rows of a priority scenario, its settings and its link add-ons: a missing key, a value of
+// the wrong type, or a value the model refuses, each with the loader's usual kind of failure.
+TEST_F(BadProjectFile, EachFlawOfAPriorityProjectHasItsMessage) {
+  const std::string reservoirZones = "PriorityReservoirSettings::setValueOfHydrologicalZone";
+  const std::string pumping = "JsonLoadLinkAddonPumping::load(): ";
+  const std::string monthly = "JsonLoadSettingsPriorityReservoir::load(): ";
+  const std::string firstMonth = "[{\"value\":0.50000000000000000,\"priority\":1}],";
+  const std::vector<BadFile> files = {
+      bad<std::invalid_argument>("state type",
+                                 priorityGolden("Por reservatório mensal", "Por bacia"),
+                                 "JsonLoadPriorityScenario::load(): invalid HydrologicalStateType"),
+      bad<json::type_error>("shares not a list",
+                            priorityGolden("\"xValues\":[0.50000000000000000]", "\"xValues\":0.5"),
+                            typeError("array", "number")),
+      bad<JsonLoadException>("reservoir without priorities",
+                             priorityGolden("\"priorities\":[2,40],", ""), kInvalid),
+      bad<json::type_error>("priorities as text",
+                            priorityGolden("\"priorities\":[2,40]", "\"priorities\":\"2,40\""),
+                            typeError("array", "string")),
+      bad<json::type_error>(
+          "true for the system mark",
+          priorityGolden("\"isHydrologicalStateSystem\":1", "\"isHydrologicalStateSystem\":true"),
+          typeError("number", "boolean")),
+      bad<JsonLoadException>(
+          "zone without its share",
+          priorityGolden("{\"value\":0.25000000000000000,\"priority\":3}", "{\"priority\":3}"),
+          kInvalid),
+      bad<std::invalid_argument>(
+          "zone priority", priorityGolden("\"priority\":30}", "\"priority\":100}"),
+          "PriorityReservoirSettings::setPriorityOfHydrologicalZone(): priority > 99"),
+      bad<std::invalid_argument>("zone shares above the whole reservoir",
+                                 priorityGolden("{\"value\":0.75", "{\"value\":0.85"),
+                                 reservoirZones + "(): sum of values > 1.0"),
+      bad<std::invalid_argument>("eleven months", priorityGolden(firstMonth, ""),
+                                 monthly + "HydrologicalZonesMonthly must hold 12 months"),
+      bad<std::invalid_argument>(
+          "a month without its zone",
+          priorityGolden("[{\"value\":0.50000000000000000,\"priority\":2}]", "[]"),
+          monthly + "the months of HydrologicalZonesMonthly must hold as many zones"),
+      bad<json::type_error>(
+          "a month not a list",
+          priorityGolden("[{\"value\":0.50000000000000000,\"priority\":2}]", "{}"),
+          typeError("array", "object")),
+      bad<std::invalid_argument>(
+          "monthly zone priority", priorityGolden("\"priority\":12}", "\"priority\":120}"),
+          "PriorityReservoirSettings::setPriorityOfHydrologicalZoneMonthly(): priority > 99"),
+      bad<std::invalid_argument>(
+          "monthly zone shares",
+          priorityGolden("{\"value\":0.50000000000000000,\"priority\":3}",
+                         "{\"value\":1.50000000000000000,\"priority\":3}"),
+          "PriorityReservoirSettings::setValueOfHydrologicalZoneMonthly(): sum of values > 1.0"),
+      bad<json::type_error>("demand priority as text",
+                            priorityGolden("\"priorities\":[1,7]", "\"priorities\":[1,\"7\"]"),
+                            typeError("number", "string")),
+      bad<JsonLoadException>("add-on without its type",
+                             priorityGolden("{\"linkAddonType\":\"Propagação\"}", "{}"), kInvalid),
+      bad<std::invalid_argument>("add-on type", priorityGolden("\"Bombeamento\"", "\"Turbina\""),
+                                 "JsonLoadLinkAddonFactory::make(): invalid linkAddonType"),
+      bad<std::invalid_argument>(
+          "two flows for a pump",
+          priorityGolden("\"flows\":[1.25000000000000000]", "\"flows\":[1.25,2.5]"),
+          pumping + "flows must hold one flow"),
+      bad<std::invalid_argument>(
+          "eleven costs",
+          priorityGolden("\"costsPerMonth\":[0.00000000000000000,", "\"costsPerMonth\":["),
+          pumping + "costsPerMonth must hold 12 costs"),
+      bad<json::type_error>("period start as text",
+                            priorityGolden("\"initialValue\":360", "\"initialValue\":\"360\""),
+                            typeError("number", "string")),
+      bad<json::type_error>(
+          "periods not a list",
+          priorityGolden("\"periods\":[{\"initialValue\":360,\"finalValue\":1080}]",
+                         "\"periods\":{\"initialValue\":360,\"finalValue\":1080}"),
+          typeError("array", "object")),
   };
   for (const BadFile& file : files) {
     SCOPED_TRACE(file.name);

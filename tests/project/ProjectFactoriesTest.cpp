@@ -3,6 +3,7 @@
 #include <typeinfo>
 
 #include "core/ElementFactory.h"
+#include "core/LinkAddonFactory.h"
 #include "core/RuleScenario.h"
 #include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
@@ -17,6 +18,7 @@
 #include "project/JsonSaveExecutionMethodFactory.h"
 #include "project/JsonSaveLink.h"
 #include "project/JsonSaveLinkAddonFactory.h"
+#include "project/JsonSavePriorityScenery.h"
 #include "project/JsonSaveRegressionTechniqueFactory.h"
 #include "project/JsonSaveReleaseRuleFactory.h"
 #include "project/JsonSaveReservoir.h"
@@ -93,22 +95,41 @@ TEST(ProjectFactories, EveryReleaseRuleRoundTrips) {
             "\"VolumePercentageD2\":[],\"Release\":[]}");
 }
 
+// Each add-on goes through its writer and its reader and comes back of the same class.
+TEST(ProjectFactories, EveryLinkAddonRoundTrips) {
+  for (const auto& key : JsonLoadLinkAddonFactory::keys()) {
+    SCOPED_TRACE(key);
+    const auto addon =
+        LinkAddonFactory::make(Vocabulary::linkAddonTypes().findByName(key)->getType());
+    const std::string text = JsonSaveLinkAddonFactory::make(addon)->toJson();
+    const auto link = std::static_pointer_cast<Link>(ElementFactory::makeNaturalLink());
+    JsonLoadLinkAddonFactory::make(key, link)->load(nlohmann::json::parse(text));
+    const auto& read = link->getLinkAddon();
+    EXPECT_EQ(typeid(*read), typeid(*addon));
+    EXPECT_EQ(JsonSaveLinkAddonFactory::make(read)->toJson(), text);
+  }
+}
+
 TEST(ProjectFactories, KindsReadAndWrittenToday) {
   using Names = std::vector<std::string>;
-  EXPECT_EQ(JsonLoadScenarioFactory::keys(), Names{"Simulador por regras"});
-  EXPECT_EQ(JsonSaveSceneryFactory::keys(), Names{"Simulador por regras"});
+  const Names scenarios = {"Otimizador por prioridades", "Simulador por regras"};
+  EXPECT_EQ(JsonLoadScenarioFactory::keys(), scenarios);
+  EXPECT_EQ(JsonSaveSceneryFactory::keys(), scenarios);
   EXPECT_EQ(JsonLoadExecutionMethodFactory::keys(), (Names{"Contínuo", "Janela"}));
   EXPECT_EQ(JsonSaveExecutionMethodFactory::keys(), (Names{"Contínuo", "Janela"}));
-  EXPECT_EQ(JsonLoadLinkAddonFactory::keys(), Names{"Nenhum"});
-  EXPECT_EQ(JsonSaveLinkAddonFactory::keys(), Names{"Nenhum"});
+  const Names addons = {"Bombeamento", "Nenhum", "Propagação"};
+  EXPECT_EQ(JsonLoadLinkAddonFactory::keys(), addons);
+  EXPECT_EQ(JsonSaveLinkAddonFactory::keys(), addons);
   EXPECT_EQ(JsonLoadRegressionTechniqueFactory::keys(), Names{"CubicSpline"});
   EXPECT_EQ(JsonSaveRegressionTechniqueFactory::keys(), Names{"CubicSpline"});
+  // Each scenario kind read and written has a settings object for each of the ten element kinds.
   const auto settingsKeys = JsonSaveSettingsFactory::keys();
   EXPECT_EQ(settingsKeys, JsonLoadSettingsFactory::keys());
-  ASSERT_EQ(settingsKeys.size(), 10u);
-  for (const auto& [scenarioType, elementType] : settingsKeys) {
-    EXPECT_EQ(scenarioType, "Simulador por regras");
-  }
+  ASSERT_EQ(settingsKeys.size(), 20u);
+  std::map<std::string, std::size_t> kindsPerScenario;
+  for (const auto& [scenarioType, elementType] : settingsKeys) ++kindsPerScenario[scenarioType];
+  EXPECT_EQ(kindsPerScenario,
+            (std::map<std::string, std::size_t>{{scenarios[0], 10}, {scenarios[1], 10}}));
   const auto& methods = JsonLoadExecutionMethodFactory::make("Janela")->load(
       nlohmann::json::object(), emptyScenario()->getInterval());
   EXPECT_EQ(methods->getExecutionType().getType(), ExecutionType::windowed);
@@ -147,6 +168,9 @@ TEST(ProjectFactories, UnknownKeysHaveTheirMessages) {
 
 TEST(ProjectFactories, WritersWithoutWhatTheyNeed) {
   EXPECT_EQ(JsonSaveRuleScenery(nullptr).toJson(), "");
+  EXPECT_EQ(JsonSavePriorityScenery(nullptr).toJson(), "");
+  EXPECT_THROW_TEXT(JsonSavePriorityScenery(emptyScenario()).toJson(), std::invalid_argument,
+                    "JsonSavePriorityScenery::toJson(): the scenario is no priority scenario");
   const auto node = std::static_pointer_cast<Node>(ElementFactory::makeJunction());
   EXPECT_THROW_TEXT(JsonSaveNode(node, nullptr).toJsonScenarioConf(), std::runtime_error,
                     "JsonSaveElement: scenario pointer is nullptr!");

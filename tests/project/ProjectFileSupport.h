@@ -7,11 +7,11 @@
 #include <sstream>
 #include <string>
 
-#include "support/TemporaryFolder.h"
 #include "core/ConfigurationHeader.h"
 #include "core/ScenarioManager.h"
 #include "project/JsonLoadElement.h"
 #include "project/JsonSaveElement.h"
+#include "support/TemporaryFolder.h"
 
 namespace projectfile {
 
@@ -35,6 +35,11 @@ inline void writeFile(const std::string& path, const std::string& text) {
 // The hand-written project of tests/data/project.
 inline std::string goldenPath() {
   return std::string(KOVA_EXAMPLES_DIR) + "/../tests/data/project/vale.sjson";
+}
+
+// The hand-written priority project of tests/data/project.
+inline std::string priorityGoldenPath() {
+  return std::string(KOVA_EXAMPLES_DIR) + "/../tests/data/project/prioridades.sjson";
 }
 
 // text with the first occurrence of from replaced; fails the test when from is absent.

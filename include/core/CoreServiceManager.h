@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "common/Point2D.h"
@@ -23,16 +24,25 @@ class CoreServiceManager {
   // The forms below do what their ...NoDatabase twins do and keep the open project database in
   // step: an added element gets its row, input series and curve (and its databaseId), a removed
   // one loses its rows. They throw as their twins, DatabaseException on an SQLite failure and
-  // std::logic_error without an open database.
+  // std::logic_error without an open database; an element whose row could not be written is
+  // taken out of the scenario again.
   static void addElement(const ScenarioPtr& scenario, const ElementPtr& element, bool rename);
   static void addElement(const ScenarioPtr& scenario, const ElementPtr& element, unsigned int id,
                          bool rename);
   static ElementPtr createElement(const ScenarioPtr& scenario, ElementType type, bool rename);
+  static ElementPtr createElement(const ScenarioPtr& scenario, ElementType type, unsigned int id,
+                                  bool rename);
   static std::shared_ptr<Node> createNode(const ScenarioPtr& scenario, ElementType type,
                                           const Point2D& position, bool rename);
+  static std::shared_ptr<Node> createNode(const ScenarioPtr& scenario, ElementType type,
+                                          const Point2D& position, unsigned int id, bool rename);
   static std::shared_ptr<Link> createLink(const ScenarioPtr& scenario, ElementType type,
                                           const std::shared_ptr<Node>& upstream,
                                           const std::shared_ptr<Node>& downstream, bool rename);
+  static std::shared_ptr<Link> createLinkCopy(const std::shared_ptr<Link>& model,
+                                              const ScenarioPtr& scenario,
+                                              const std::shared_ptr<Node>& upstream,
+                                              const std::shared_ptr<Node>& downstream, bool rename);
   static void deleteElement(const ScenarioPtr& scenario, const ElementPtr& element);
   static std::shared_ptr<Link> changeLinkType(const std::shared_ptr<Link>& link, ElementType type,
                                               const ScenarioPtr& scenario);
@@ -95,17 +105,38 @@ class CoreServiceManager {
  private:
   // Takes one element out of a scenario: from memory, or from memory and the database.
   using RemoveStep = std::function<void(const ScenarioPtr&, const ElementPtr&)>;
-  // Puts one element into a scenario under an id, keeping its name.
-  using AddStep = std::function<void(const ScenarioPtr&, const ElementPtr&, unsigned int)>;
+  // Puts one element into a scenario, under the next free id or under the id given, renamed or
+  // not: into memory, or into memory and the database.
+  using AddStep =
+      std::function<void(const ScenarioPtr&, const ElementPtr&, std::optional<unsigned int>, bool)>;
 
+  static void addInMemory(const ScenarioPtr& scenario, const ElementPtr& element,
+                          std::optional<unsigned int> id, bool rename);
+  static void addWithDatabase(const ScenarioPtr& scenario, const ElementPtr& element,
+                              std::optional<unsigned int> id, bool rename);
   static void removeNoDatabase(const ScenarioPtr& scenario, const ElementPtr& element);
   static void removeWithDatabase(const ScenarioPtr& scenario, const ElementPtr& element);
-  static void addKeepingName(const ScenarioPtr& scenario, const ElementPtr& element,
-                             unsigned int id);
-  // Gives the element just added to scenario its rows in the open database.
-  static void insertInDatabase(const ScenarioPtr& scenario, const ElementPtr& element);
-  static void addKeepingNameNoDatabase(const ScenarioPtr& scenario, const ElementPtr& element,
-                                       unsigned int id);
+
+  // The creations, with the step that puts the new element into the scenario.
+  static ElementPtr createElementWith(const ScenarioPtr& scenario, ElementType type,
+                                      std::optional<unsigned int> id, bool rename,
+                                      const AddStep& add);
+  static std::shared_ptr<Node> createNodeWith(const ScenarioPtr& scenario, ElementType type,
+                                              const Point2D& position,
+                                              std::optional<unsigned int> id, bool rename,
+                                              const AddStep& add);
+  static std::shared_ptr<Link> createLinkWith(const ScenarioPtr& scenario, ElementType type,
+                                              const std::shared_ptr<Node>& upstream,
+                                              const std::shared_ptr<Node>& downstream, bool rename,
+                                              const AddStep& add);
+  static std::shared_ptr<Link> createLinkCopyWith(const std::shared_ptr<Link>& model,
+                                                  const ScenarioPtr& scenario,
+                                                  const std::shared_ptr<Node>& upstream,
+                                                  const std::shared_ptr<Node>& downstream,
+                                                  bool rename, const AddStep& add);
+  static std::shared_ptr<Link> changeLinkTypeWith(const std::shared_ptr<Link>& link,
+                                                  ElementType type, const ScenarioPtr& scenario,
+                                                  const RemoveStep& remove, const AddStep& add);
 
   // A new node of type at position, not yet in any scenario.
   static std::shared_ptr<Node> makeNode(ElementType type, const Point2D& position);

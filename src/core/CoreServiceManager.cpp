@@ -66,42 +66,49 @@ void carryLinkData(const Link& from, Link& to) {
 
 void CoreServiceManager::addElement(const ScenarioPtr& scenario, const ElementPtr& element,
                                     bool rename) {
-  scenario->addElement(element, rename);
-  insertInDatabase(scenario, element);
-  scenario->posAddElement(element, rename);
+  addWithDatabase(scenario, element, std::nullopt, rename);
 }
 
 void CoreServiceManager::addElement(const ScenarioPtr& scenario, const ElementPtr& element,
                                     unsigned int id, bool rename) {
-  scenario->addElement(element, rename, id);
-  insertInDatabase(scenario, element);
-  scenario->posAddElement(element, rename);
+  addWithDatabase(scenario, element, id, rename);
 }
 
 CoreServiceManager::ElementPtr CoreServiceManager::createElement(const ScenarioPtr& scenario,
                                                                  ElementType type, bool rename) {
-  ElementPtr element = ElementFactory::make(type);
-  addElement(scenario, element, rename);
-  return element;
+  return createElementWith(scenario, type, std::nullopt, rename, addWithDatabase);
 }
 
-std::shared_ptr<Node> CoreServiceManager::createNode(const ScenarioPtr& scenario,
-                                                     ElementType type, const Point2D& position,
+CoreServiceManager::ElementPtr CoreServiceManager::createElement(const ScenarioPtr& scenario,
+                                                                 ElementType type, unsigned int id,
+                                                                 bool rename) {
+  return createElementWith(scenario, type, id, rename, addWithDatabase);
+}
+
+std::shared_ptr<Node> CoreServiceManager::createNode(const ScenarioPtr& scenario, ElementType type,
+                                                     const Point2D& position, bool rename) {
+  return createNodeWith(scenario, type, position, std::nullopt, rename, addWithDatabase);
+}
+
+std::shared_ptr<Node> CoreServiceManager::createNode(const ScenarioPtr& scenario, ElementType type,
+                                                     const Point2D& position, unsigned int id,
                                                      bool rename) {
-  std::shared_ptr<Node> node = makeNode(type, position);
-  addElement(scenario, node, rename);
-  return node;
+  return createNodeWith(scenario, type, position, id, rename, addWithDatabase);
 }
 
-std::shared_ptr<Link> CoreServiceManager::createLink(const ScenarioPtr& scenario,
-                                                     ElementType type,
+std::shared_ptr<Link> CoreServiceManager::createLink(const ScenarioPtr& scenario, ElementType type,
                                                      const std::shared_ptr<Node>& upstream,
                                                      const std::shared_ptr<Node>& downstream,
                                                      bool rename) {
-  requireType(ElementSets::links(), type, "CoreServiceManager::createLink(): invalid link type");
-  std::shared_ptr<Link> link = makeCheckedLink(scenario, type, upstream, downstream, "");
-  addElement(scenario, link, rename);
-  return link;
+  return createLinkWith(scenario, type, upstream, downstream, rename, addWithDatabase);
+}
+
+std::shared_ptr<Link> CoreServiceManager::createLinkCopy(const std::shared_ptr<Link>& model,
+                                                         const ScenarioPtr& scenario,
+                                                         const std::shared_ptr<Node>& upstream,
+                                                         const std::shared_ptr<Node>& downstream,
+                                                         bool rename) {
+  return createLinkCopyWith(model, scenario, upstream, downstream, rename, addWithDatabase);
 }
 
 void CoreServiceManager::deleteElement(const ScenarioPtr& scenario, const ElementPtr& element) {
@@ -111,91 +118,54 @@ void CoreServiceManager::deleteElement(const ScenarioPtr& scenario, const Elemen
 std::shared_ptr<Link> CoreServiceManager::changeLinkType(const std::shared_ptr<Link>& link,
                                                          ElementType type,
                                                          const ScenarioPtr& scenario) {
-  requireType(ElementSets::links(), type,
-              "CoreServiceManager::changeLinkType(): invalid link type");
-  if (link->getType() == type) return link;
-  return replaceLink(link, type, scenario, removeWithDatabase, addKeepingName);
-}
-
-void CoreServiceManager::removeWithDatabase(const ScenarioPtr& scenario,
-                                            const ElementPtr& element) {
-  DatabaseDelete::deleteElement(SQLStorage::getInstance().getStorageRef(),
-                                element->getDatabaseId(), element.get());
-  scenario->removeElement(element->getId());
-}
-
-void CoreServiceManager::addKeepingName(const ScenarioPtr& scenario, const ElementPtr& element,
-                                        unsigned int id) {
-  addElement(scenario, element, id, false);
-}
-
-void CoreServiceManager::insertInDatabase(const ScenarioPtr& scenario, const ElementPtr& element) {
-  DatabaseInsert::insertNewElementInSceneryDatabase(SQLStorage::getInstance().getStorageRef(),
-                                                    scenario->getDatabaseId(), *element);
+  return changeLinkTypeWith(link, type, scenario, removeWithDatabase, addWithDatabase);
 }
 
 void CoreServiceManager::addElementNoDatabase(const ScenarioPtr& scenario,
                                               const ElementPtr& element, bool rename) {
-  scenario->addElement(element, rename);
-  scenario->posAddElement(element, rename);
+  addInMemory(scenario, element, std::nullopt, rename);
 }
 
 void CoreServiceManager::addElementNoDatabase(const ScenarioPtr& scenario,
                                               const ElementPtr& element, unsigned int id,
                                               bool rename) {
-  scenario->addElement(element, rename, id);
-  scenario->posAddElement(element, rename);
+  addInMemory(scenario, element, id, rename);
 }
 
 CoreServiceManager::ElementPtr CoreServiceManager::createElementNoDatabase(
     const ScenarioPtr& scenario, ElementType type, bool rename) {
-  ElementPtr element = ElementFactory::make(type);
-  addElementNoDatabase(scenario, element, rename);
-  return element;
+  return createElementWith(scenario, type, std::nullopt, rename, addInMemory);
 }
 
 CoreServiceManager::ElementPtr CoreServiceManager::createElementNoDatabase(
     const ScenarioPtr& scenario, ElementType type, unsigned int id, bool rename) {
-  ElementPtr element = ElementFactory::make(type);
-  addElementNoDatabase(scenario, element, id, rename);
-  return element;
+  return createElementWith(scenario, type, id, rename, addInMemory);
 }
 
 std::shared_ptr<Node> CoreServiceManager::createNodeNoDatabase(const ScenarioPtr& scenario,
                                                                ElementType type,
                                                                const Point2D& position,
                                                                bool rename) {
-  std::shared_ptr<Node> node = makeNode(type, position);
-  addElementNoDatabase(scenario, node, rename);
-  return node;
+  return createNodeWith(scenario, type, position, std::nullopt, rename, addInMemory);
 }
 
 std::shared_ptr<Node> CoreServiceManager::createNodeNoDatabase(const ScenarioPtr& scenario,
                                                                ElementType type,
                                                                const Point2D& position,
                                                                unsigned int id, bool rename) {
-  std::shared_ptr<Node> node = makeNode(type, position);
-  addElementNoDatabase(scenario, node, id, rename);
-  return node;
+  return createNodeWith(scenario, type, position, id, rename, addInMemory);
 }
 
 std::shared_ptr<Link> CoreServiceManager::createLinkNoDatabase(
     const ScenarioPtr& scenario, ElementType type, const std::shared_ptr<Node>& upstream,
     const std::shared_ptr<Node>& downstream, bool rename) {
-  requireType(ElementSets::links(), type, "CoreServiceManager::createLink(): invalid link type");
-  std::shared_ptr<Link> link = makeCheckedLink(scenario, type, upstream, downstream, "");
-  addElementNoDatabase(scenario, link, rename);
-  return link;
+  return createLinkWith(scenario, type, upstream, downstream, rename, addInMemory);
 }
 
 std::shared_ptr<Link> CoreServiceManager::createLinkCopyNoDatabase(
     const std::shared_ptr<Link>& model, const ScenarioPtr& scenario,
     const std::shared_ptr<Node>& upstream, const std::shared_ptr<Node>& downstream, bool rename) {
-  std::shared_ptr<Link> link =
-      makeCheckedLink(scenario, model->getType(), upstream, downstream, model->getName());
-  link->setLinkAddon(model->getLinkAddon()->copy());
-  addElementNoDatabase(scenario, link, rename);
-  return link;
+  return createLinkCopyWith(model, scenario, upstream, downstream, rename, addInMemory);
 }
 
 void CoreServiceManager::deleteElementNoDatabase(const ScenarioPtr& scenario,
@@ -205,19 +175,98 @@ void CoreServiceManager::deleteElementNoDatabase(const ScenarioPtr& scenario,
 
 std::shared_ptr<Link> CoreServiceManager::changeLinkTypeNoDatabase(
     const std::shared_ptr<Link>& link, ElementType type, const ScenarioPtr& scenario) {
-  requireType(ElementSets::links(), type,
-              "CoreServiceManager::changeLinkType(): invalid link type");
-  if (link->getType() == type) return link;
-  return replaceLink(link, type, scenario, removeNoDatabase, addKeepingNameNoDatabase);
+  return changeLinkTypeWith(link, type, scenario, removeNoDatabase, addInMemory);
+}
+
+void CoreServiceManager::addInMemory(const ScenarioPtr& scenario, const ElementPtr& element,
+                                     std::optional<unsigned int> id, bool rename) {
+  if (id) {
+    scenario->addElement(element, rename, *id);
+  } else {
+    scenario->addElement(element, rename);
+  }
+  scenario->posAddElement(element, rename);
+}
+
+void CoreServiceManager::addWithDatabase(const ScenarioPtr& scenario, const ElementPtr& element,
+                                         std::optional<unsigned int> id, bool rename) {
+  if (id) {
+    scenario->addElement(element, rename, *id);
+  } else {
+    scenario->addElement(element, rename);
+  }
+  try {
+    DatabaseInsert::insertNewElementInSceneryDatabase(SQLStorage::getInstance().getStorageRef(),
+                                                      scenario->getDatabaseId(), *element);
+  } catch (...) {
+    // Memory must not hold an element that the database lacks.
+    scenario->removeElement(element->getId());
+    throw;
+  }
+  scenario->posAddElement(element, rename);
 }
 
 void CoreServiceManager::removeNoDatabase(const ScenarioPtr& scenario, const ElementPtr& element) {
   scenario->removeElement(element->getId());
 }
 
-void CoreServiceManager::addKeepingNameNoDatabase(const ScenarioPtr& scenario,
-                                                  const ElementPtr& element, unsigned int id) {
-  addElementNoDatabase(scenario, element, id, false);
+void CoreServiceManager::removeWithDatabase(const ScenarioPtr& scenario,
+                                            const ElementPtr& element) {
+  DatabaseDelete::deleteElement(SQLStorage::getInstance().getStorageRef(), element->getDatabaseId(),
+                                element.get());
+  scenario->removeElement(element->getId());
+}
+
+CoreServiceManager::ElementPtr CoreServiceManager::createElementWith(const ScenarioPtr& scenario,
+                                                                     ElementType type,
+                                                                     std::optional<unsigned int> id,
+                                                                     bool rename,
+                                                                     const AddStep& add) {
+  ElementPtr element = ElementFactory::make(type);
+  add(scenario, element, id, rename);
+  return element;
+}
+
+std::shared_ptr<Node> CoreServiceManager::createNodeWith(const ScenarioPtr& scenario,
+                                                         ElementType type, const Point2D& position,
+                                                         std::optional<unsigned int> id,
+                                                         bool rename, const AddStep& add) {
+  std::shared_ptr<Node> node = makeNode(type, position);
+  add(scenario, node, id, rename);
+  return node;
+}
+
+std::shared_ptr<Link> CoreServiceManager::createLinkWith(const ScenarioPtr& scenario,
+                                                         ElementType type,
+                                                         const std::shared_ptr<Node>& upstream,
+                                                         const std::shared_ptr<Node>& downstream,
+                                                         bool rename, const AddStep& add) {
+  requireType(ElementSets::links(), type, "CoreServiceManager::createLink(): invalid link type");
+  std::shared_ptr<Link> link = makeCheckedLink(scenario, type, upstream, downstream, "");
+  add(scenario, link, std::nullopt, rename);
+  return link;
+}
+
+std::shared_ptr<Link> CoreServiceManager::createLinkCopyWith(
+    const std::shared_ptr<Link>& model, const ScenarioPtr& scenario,
+    const std::shared_ptr<Node>& upstream, const std::shared_ptr<Node>& downstream, bool rename,
+    const AddStep& add) {
+  std::shared_ptr<Link> link =
+      makeCheckedLink(scenario, model->getType(), upstream, downstream, model->getName());
+  link->setLinkAddon(model->getLinkAddon()->copy());
+  add(scenario, link, std::nullopt, rename);
+  return link;
+}
+
+std::shared_ptr<Link> CoreServiceManager::changeLinkTypeWith(const std::shared_ptr<Link>& link,
+                                                             ElementType type,
+                                                             const ScenarioPtr& scenario,
+                                                             const RemoveStep& remove,
+                                                             const AddStep& add) {
+  requireType(ElementSets::links(), type,
+              "CoreServiceManager::changeLinkType(): invalid link type");
+  if (link->getType() == type) return link;
+  return replaceLink(link, type, scenario, remove, add);
 }
 
 std::shared_ptr<Node> CoreServiceManager::makeNode(ElementType type, const Point2D& position) {
@@ -260,7 +309,7 @@ std::shared_ptr<Link> CoreServiceManager::replaceLink(const std::shared_ptr<Link
   remove(scenario, link);
   std::shared_ptr<Link> replacement = linkMakers().at(type)(upstream, downstream, link->getName());
   carryLinkData(*link, *replacement);
-  add(scenario, replacement, id);
+  add(scenario, replacement, id, false);
   memento.setLink(replacement);
   memento.restore();
   return replacement;

@@ -5,13 +5,18 @@
 
 #include "core/CoreServiceManager.h"
 #include "core/Demand.h"
+#include "core/ElementFactory.h"
 #include "core/LinkRuleSettings.h"
 #include "core/NetworkUtils.h"
 #include "core/RuleScenario.h"
 #include "core/RuleSettings.h"
 #include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
+#include "project/database/DatabaseInsert.h"
+#include "project/database/DatabaseSearch.h"
+#include "project/database/SQLStorage.h"
 #include "support/ExpectThrow.h"
+#include "support/TemporaryFolder.h"
 
 namespace {
 
@@ -154,4 +159,72 @@ TEST_F(CoreServiceManagerTest, ChangingALinkTypeKeepsWhatTheScenarioHoldsAboutIt
   EXPECT_THROW_TEXT(CSM::changeLinkTypeNoDatabase(changed, ElementType::drain, scenario),
                     std::invalid_argument,
                     "CoreServiceManager::changeLinkType(): invalid link type");
+}
+
+namespace {
+
+// The same edits, this time with an open project database that must follow them.
+class CoreServiceManagerDatabaseTest : public CoreServiceManagerTest {
+ protected:
+  void SetUp() override {
+    SQLStorage::getInstance(folder.file("edits.sjson.sqlite"));
+    DatabaseInsert::insertSceneryEntryInDatabase(*scenario);
+  }
+  void TearDown() override { SQLStorage::deleteInstance(); }
+
+  static int64_t rowOf(const std::shared_ptr<Element>& element) {
+    return DatabaseSearch::getElementCodeInDatabase(SQLStorage::getInstance().getStorageRef(),
+                                                    *element);
+  }
+  // Whether the database still has the Element row with that key.
+  static bool hasRow(unsigned int databaseId) {
+    const auto probe = ElementFactory::make(ElementType::junction);
+    probe->setDatabaseId(databaseId);
+    return rowOf(probe) != 0;
+  }
+
+  TemporaryFolder folder{"kova_core_"};
+};
+
+}  // namespace
+
+TEST_F(CoreServiceManagerDatabaseTest, EveryFormGivesTheNewElementItsRowAsTheMemoryFormWould) {
+  auto reservoir = CSM::createNode(scenario, ElementType::reservoir, {1.0, 2.0}, true);
+  auto junction = CSM::createNode(scenario, ElementType::junction, {}, 40, false);
+  auto basin = CSM::createElement(scenario, ElementType::basin, 50, true);
+  auto demand = CSM::createElement(scenario, ElementType::humanDemand, true);
+  auto river = CSM::createLink(scenario, ElementType::naturalLink, reservoir, junction, true);
+  auto copy =
+      CSM::createLinkCopy(river, scenario, junction, std::static_pointer_cast<Node>(demand), false);
+  EXPECT_EQ(junction->getId(), 40u);
+  EXPECT_EQ(basin->getId(), 50u);
+  EXPECT_EQ(basin->getName(), "Bacia50");
+  EXPECT_EQ(copy->getName(), river->getName());
+  EXPECT_EQ(ruleSettings(junction)->getAllocation().count(copy->getId()), 1u);
+  for (const auto& element : scenario->getElements()) {
+    SCOPED_TRACE(element->getName());
+    EXPECT_GT(element->getDatabaseId(), 0u);
+    EXPECT_EQ(rowOf(element), element->getDatabaseId());
+  }
+
+  const unsigned int riverRow = river->getDatabaseId();
+  const auto canal = CSM::changeLinkType(river, ElementType::artificialLink, scenario);
+  EXPECT_FALSE(hasRow(riverRow));
+  EXPECT_EQ(rowOf(canal), canal->getDatabaseId());
+
+  std::vector<unsigned int> rows;
+  for (const auto& gone : std::vector<std::shared_ptr<Element>>{junction, canal, copy}) {
+    rows.push_back(gone->getDatabaseId());
+  }
+  CSM::deleteElement(scenario, junction);
+  for (const unsigned int row : rows) EXPECT_FALSE(hasRow(row)) << row;
+  EXPECT_TRUE(hasRow(reservoir->getDatabaseId()));
+  EXPECT_EQ(scenario->getElements().size(), 3u);
+}
+
+TEST_F(CoreServiceManagerDatabaseTest, AnElementWhoseRowCannotBeWrittenLeavesTheScenario) {
+  SQLStorage::deleteInstance();
+  EXPECT_THROW_TEXT(CSM::createNode(scenario, ElementType::reservoir, {}, true), std::logic_error,
+                    "SQLStorage::getInstance(): no project database is open");
+  EXPECT_TRUE(scenario->getElements().empty());
 }

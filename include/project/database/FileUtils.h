@@ -11,4 +11,6 @@ class FileUtils {
   static bool hasFileWritePermission(const std::string& path);
   // Whether an open that failed with errorNumber means no permission.
   static bool isPermissionDenied(int errorNumber);
+  // Whether the two paths (UTF-8) name one existing file; false when either is missing.
+  static bool isSameFile(const std::string& a, const std::string& b);
 };

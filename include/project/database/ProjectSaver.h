@@ -44,10 +44,17 @@ class ProjectSaver {
   static void save(SQLite::Database& storage,
                    const std::vector<std::shared_ptr<Scenario>>& scenarios, const Keys& keys,
                    const Progress& progress);
-
- private:
-  static void clearProjectRows(SQLite::Database& storage);
+  // Fills the small tables with what the vocabulary adds to them and gives their rows. Throws
+  // SQLite's exception on failure.
+  static Keys makeKeys(SQLite::Database& storage);
+  // Writes what element holds under its databaseId: inputs, a reservoir's curve, the goal series
+  // of its priority settings in scenario, and the results of each window as the run told by
+  // hash. Throws std::out_of_range for a series type missing from keys, SQLite's exception on
+  // failure.
   static void saveElement(SQLite::Database& storage, const std::shared_ptr<Scenario>& scenario,
                           const std::shared_ptr<Element>& element, const Keys& keys,
                           const std::string& timeStamp, const std::string& hash);
+
+ private:
+  static void clearProjectRows(SQLite::Database& storage);
 };

@@ -71,3 +71,23 @@ void DatabaseHydrologicalSeries::loadAll(SQLite::Database& storage, const Scenar
         }
       });
 }
+
+bool DatabaseHydrologicalSeries::replace(SQLite::Database& storage, const Scenario& scenario,
+                                         const Element& element, const Serie& serie) {
+  const int64_t id = element.getDatabaseId();
+  bool found = false;
+  forEachGoalSerie(
+      scenario, element, [&](int table, unsigned int index, unsigned int month, Serie& goal) {
+        if (&goal != &serie) return;
+        found = true;
+        if (table == 0) DatabaseHydrologicalSerieManager::updateSerie(storage, id, index, goal);
+        if (table == 1) {
+          DatabaseHydrologicalPerReservoirSerieManager::updateSerie(storage, id, index, goal);
+        }
+        if (table == 2) {
+          DatabaseHydrologicalPerReservoirMonthlySerieManager::updateSerie(storage, id, index,
+                                                                           month, goal);
+        }
+      });
+  return found;
+}

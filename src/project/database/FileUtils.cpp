@@ -2,6 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 bool FileUtils::hasFileWritePermission(const std::string& path) {
   std::FILE* file = std::fopen(path.c_str(), "a+");
@@ -13,3 +15,8 @@ bool FileUtils::hasFileWritePermission(const std::string& path) {
 }
 
 bool FileUtils::isPermissionDenied(int errorNumber) { return errorNumber == EACCES; }
+
+bool FileUtils::isSameFile(const std::string& a, const std::string& b) {
+  std::error_code error;
+  return std::filesystem::equivalent(std::filesystem::u8path(a), std::filesystem::u8path(b), error);
+}

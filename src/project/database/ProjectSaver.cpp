@@ -6,8 +6,8 @@
 #include "core/KOVACoreProgressBar.h"
 #include "core/Reservoir.h"
 #include "core/Scenario.h"
-#include "project/database/DatabaseException.h"
 #include "project/database/DatabaseHydrologicalSeries.h"
+#include "project/database/DatabaseIdsSnapshot.h"
 #include "project/database/DatabaseInsert.h"
 #include "project/database/DatabaseProjectLoader.h"
 #include "project/database/ElementTypeSaver.h"
@@ -18,51 +18,16 @@
 #include "project/database/UnitTypeSaver.h"
 #include "project/database/UserLiteSaver.h"
 
-namespace {
-
-// The databaseIds of scenarios and their elements, to put back when a save does not commit.
-class IdsSnapshot {
- public:
-  explicit IdsSnapshot(const std::vector<std::shared_ptr<Scenario>>& scenarios) {
-    for (const auto& scenario : scenarios) {
-      scenarioIds.emplace_back(scenario, scenario->getDatabaseId());
-      for (const auto& element : scenario->getElements()) {
-        elementIds.emplace_back(element, element->getDatabaseId());
-      }
-    }
-  }
-  void restore() const {
-    for (const auto& entry : scenarioIds) entry.first->setDatabaseId(entry.second);
-    for (const auto& entry : elementIds) entry.first->setDatabaseId(entry.second);
-  }
-
- private:
-  std::vector<std::pair<std::shared_ptr<Scenario>, unsigned int>> scenarioIds;
-  std::vector<std::pair<std::shared_ptr<Element>, unsigned int>> elementIds;
-};
-
-}  // namespace
-
 bool ProjectSaver::saveAsTransaction(SQLite::Database& storage,
                                      const std::vector<std::shared_ptr<Scenario>>& scenarios,
                                      const Progress& progress) {
-  const IdsSnapshot snapshot(scenarios);
-  try {
-    DatabaseException::guard([&] {
-      SQLite::Transaction transaction(storage, SQLite::TransactionBehavior::IMMEDIATE);
-      const Keys keys{UserLiteSaver::defaultUserId(storage), ElementTypeSaver::save(storage),
-                      SerieTypeLiteSaver::save(storage, UnitTypeSaver::save(storage))};
-      save(storage, scenarios, keys, progress);
-      transaction.commit();
-    });
-    return true;
-  } catch (const KOVACoreProgressBar::ProgressCancelException&) {
-    snapshot.restore();
-    return false;
-  } catch (...) {
-    snapshot.restore();
-    throw;
-  }
+  return DatabaseIdsSnapshot::writeOrRestore(
+      storage, scenarios, [&] { save(storage, scenarios, makeKeys(storage), progress); });
+}
+
+ProjectSaver::Keys ProjectSaver::makeKeys(SQLite::Database& storage) {
+  return {UserLiteSaver::defaultUserId(storage), ElementTypeSaver::save(storage),
+          SerieTypeLiteSaver::save(storage, UnitTypeSaver::save(storage))};
 }
 
 void ProjectSaver::save(SQLite::Database& storage,

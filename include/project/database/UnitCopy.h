@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+class TableCopy;
+
+// The part of a database copy (DatabaseCopy) that carries the units and the series types, which are
+// defined per unit.
+class UnitCopy {
+ public:
+  // The tables it copies, parents first.
+  static const std::vector<std::string>& tables();
+  // Copies them through copy. Throws as TableCopy::copy.
+  static void copyUnits(TableCopy& copy);
+};

@@ -9,6 +9,7 @@
 
 class Link;
 class Scenario;
+class Serie;
 
 // The checks of one element before a run: first its input series of the given kinds over the
 // scenario's interval, then the checks of each level of its class, base first, each level's in
@@ -35,6 +36,10 @@ class ElementCheck : public CheckCompleteness {
     addError(firstField, message);
   }
   void appendFindings(const CheckCompleteness& other);
+  // Checks the goal series of one hydrological state or zone (state counts from 0, out of
+  // states) over the scenario's interval, and keeps its findings.
+  void checkStateSerie(const std::shared_ptr<Serie>& serie, unsigned int state,
+                       unsigned int states);
 
   const std::shared_ptr<Element>& getElement() const { return element; }
   std::shared_ptr<Scenario> getScenario() const { return scenario.lock(); }

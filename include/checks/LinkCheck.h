@@ -22,6 +22,12 @@ class LinkCheck : public ElementCheck {
   void checkLinkLossSerie();
 };
 
+// In a priority scenario a link has no settings to check: its series and the common checks.
+class PriorityLinkCheck : public LinkCheck {
+ public:
+  using LinkCheck::LinkCheck;
+};
+
 // In a rule scenario, a bidirectional link's own allocation row against the matrix of the
 // reservoir it leaves when inverted.
 class RuleLinkCheck : public LinkCheck {

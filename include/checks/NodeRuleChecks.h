@@ -16,6 +16,18 @@ class JunctionCheck : public NodeCheck {
       : NodeCheck(std::move(element), {}, std::move(scenario)) {}
 };
 
+// In a priority scenario a basin and a junction take no part in the priorities: the common
+// checks are all.
+class PriorityBasinCheck : public BasinCheck {
+ public:
+  using BasinCheck::BasinCheck;
+};
+
+class PriorityJunctionCheck : public JunctionCheck {
+ public:
+  using JunctionCheck::JunctionCheck;
+};
+
 // The allocation checks shared by basins and junctions of rule scenarios.
 template <typename Base>
 class RuleSharingCheck : public Base {

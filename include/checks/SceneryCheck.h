@@ -47,3 +47,17 @@ class RuleSceneryCheck : public SceneryCheck {
  public:
   using SceneryCheck::SceneryCheck;
 };
+
+// The checks of an operation by priorities: the common ones; priorities, goals and hydrological
+// states are checked element by element.
+class PrioritySceneryCheck : public SceneryCheck {
+ public:
+  using SceneryCheck::SceneryCheck;
+};
+
+// The checks of a guarantee-curve search: the common ones, its elements checked as in a rule
+// simulation, since every trial is one.
+class GuaranteeCurveSceneryCheck : public SceneryCheck {
+ public:
+  using SceneryCheck::SceneryCheck;
+};

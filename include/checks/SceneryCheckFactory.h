@@ -9,5 +9,7 @@
 class SceneryCheckFactory {
  public:
   static std::shared_ptr<SceneryCheck> make(std::weak_ptr<Scenario> scenario);
+  static std::shared_ptr<SceneryCheck> makePriorityCheck(std::weak_ptr<Scenario> scenario);
   static std::shared_ptr<SceneryCheck> makeRuleCheck(std::weak_ptr<Scenario> scenario);
+  static std::shared_ptr<SceneryCheck> makeGuaranteeCurveCheck(std::weak_ptr<Scenario> scenario);
 };

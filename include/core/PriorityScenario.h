@@ -44,6 +44,7 @@ class PriorityScenario : public Scenario {
  protected:
   std::shared_ptr<OperationSystem> getOperationSystem() override;
   std::shared_ptr<Scenario> copySpecific() const override;
+  std::shared_ptr<SceneryCheck> makeSceneryCheck() override;
   // Also gives the interval to every goal series of the states and zones.
   void setSeriesIntervalsElements() override;
   // Nothing to hand: the operation takes zeroContribution when it is made.

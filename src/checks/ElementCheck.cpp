@@ -24,6 +24,14 @@ void ElementCheck::appendFindings(const CheckCompleteness& other) {
   for (const auto& error : other.getErrors()) addError(error.elementName, error.message);
 }
 
+void ElementCheck::checkStateSerie(const std::shared_ptr<Serie>& serie, unsigned int state,
+                                   unsigned int states) {
+  HydrologicalStateSerieCheck serieCheck(serie, getScenario()->getInterval(), element->getName(),
+                                         state, states);
+  serieCheck.check();
+  appendFindings(serieCheck);
+}
+
 bool NodeCheck::reachesDrain(const std::shared_ptr<Link>& link) {
   const std::shared_ptr<Node> target = link->getDownstream();
   if (!target) return false;

@@ -7,6 +7,8 @@
 #include "checks/DemandCheck.h"
 #include "checks/LinkCheck.h"
 #include "checks/NodeRuleChecks.h"
+#include "checks/PriorityDemandCheck.h"
+#include "checks/PriorityReservoirCheck.h"
 #include "checks/ReservoirCheck.h"
 #include "core/ElementSets.h"
 #include "core/KeySettings.h"
@@ -17,19 +19,39 @@ namespace {
 using Maker = std::function<std::shared_ptr<ElementCheck>(const std::shared_ptr<Element>&,
                                                           std::weak_ptr<Scenario>)>;
 
+void addPriorityMakers(std::map<KeySettings, Maker>& makers) {
+  const ScenarioType priority = ScenarioType::priorityOptimizer;
+  makers[{priority, ElementType::reservoir}] = ElementCheckFactory::makeReservoirCheckPriority;
+  for (ElementType demand : ElementSets::consumerDemands()) {
+    makers[{priority, demand}] = ElementCheckFactory::makeDemandCheckPriority;
+  }
+  makers[{priority, ElementType::drain}] = ElementCheckFactory::makeDrainDemandCheckPriority;
+  makers[{priority, ElementType::basin}] = ElementCheckFactory::makeBasinCheckPriority;
+  makers[{priority, ElementType::junction}] = ElementCheckFactory::makeJunctionCheckPriority;
+  for (ElementType link : ElementSets::links()) {
+    makers[{priority, link}] = ElementCheckFactory::makeLinkCheckPriority;
+  }
+}
+
+// A guarantee-curve search runs rule simulations, so its elements are checked as theirs.
+void addRuleMakers(std::map<KeySettings, Maker>& makers, ScenarioType scenario) {
+  makers[{scenario, ElementType::reservoir}] = ElementCheckFactory::makeReservoirCheckRule;
+  for (ElementType demand : ElementSets::demands()) {
+    makers[{scenario, demand}] = ElementCheckFactory::makeDemandCheckRule;
+  }
+  makers[{scenario, ElementType::basin}] = ElementCheckFactory::makeBasinCheckRule;
+  makers[{scenario, ElementType::junction}] = ElementCheckFactory::makeJunctionCheckRule;
+  for (ElementType link : ElementSets::links()) {
+    makers[{scenario, link}] = ElementCheckFactory::makeLinkCheckRule;
+  }
+}
+
 const std::map<KeySettings, Maker>& makers() {
   static const std::map<KeySettings, Maker> table = [] {
     std::map<KeySettings, Maker> result;
-    const ScenarioType rule = ScenarioType::ruleSimulator;
-    result[{rule, ElementType::reservoir}] = ElementCheckFactory::makeReservoirCheckRule;
-    for (ElementType demand : ElementSets::demands()) {
-      result[{rule, demand}] = ElementCheckFactory::makeDemandCheckRule;
-    }
-    result[{rule, ElementType::basin}] = ElementCheckFactory::makeBasinCheckRule;
-    result[{rule, ElementType::junction}] = ElementCheckFactory::makeJunctionCheckRule;
-    for (ElementType link : ElementSets::links()) {
-      result[{rule, link}] = ElementCheckFactory::makeLinkCheckRule;
-    }
+    addPriorityMakers(result);
+    addRuleMakers(result, ScenarioType::ruleSimulator);
+    addRuleMakers(result, ScenarioType::guaranteeCurve);
     return result;
   }();
   return table;
@@ -46,6 +68,36 @@ std::shared_ptr<ElementCheck> ElementCheckFactory::make(const std::shared_ptr<El
     throw std::invalid_argument("ElementCheckFactory::make(): invalid parameter key");
   }
   return it->second(element, scenario);
+}
+
+std::shared_ptr<ElementCheck> ElementCheckFactory::makeReservoirCheckPriority(
+    const std::shared_ptr<Element>& element, std::weak_ptr<Scenario> scenario) {
+  return std::make_shared<PriorityReservoirCheck>(element, scenario);
+}
+
+std::shared_ptr<ElementCheck> ElementCheckFactory::makeDemandCheckPriority(
+    const std::shared_ptr<Element>& element, std::weak_ptr<Scenario> scenario) {
+  return std::make_shared<PriorityDemandCheck>(element, scenario);
+}
+
+std::shared_ptr<ElementCheck> ElementCheckFactory::makeDrainDemandCheckPriority(
+    const std::shared_ptr<Element>& element, std::weak_ptr<Scenario> scenario) {
+  return std::make_shared<PriorityDrainDemandCheck>(element, scenario);
+}
+
+std::shared_ptr<ElementCheck> ElementCheckFactory::makeBasinCheckPriority(
+    const std::shared_ptr<Element>& element, std::weak_ptr<Scenario> scenario) {
+  return std::make_shared<PriorityBasinCheck>(element, scenario);
+}
+
+std::shared_ptr<ElementCheck> ElementCheckFactory::makeLinkCheckPriority(
+    const std::shared_ptr<Element>& element, std::weak_ptr<Scenario> scenario) {
+  return std::make_shared<PriorityLinkCheck>(element, scenario);
+}
+
+std::shared_ptr<ElementCheck> ElementCheckFactory::makeJunctionCheckPriority(
+    const std::shared_ptr<Element>& element, std::weak_ptr<Scenario> scenario) {
+  return std::make_shared<PriorityJunctionCheck>(element, scenario);
 }
 
 std::shared_ptr<ElementCheck> ElementCheckFactory::makeReservoirCheckRule(

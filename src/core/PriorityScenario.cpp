@@ -1,5 +1,6 @@
 #include "core/PriorityScenario.h"
 
+#include "checks/SceneryCheckFactory.h"
 #include "core/ElementSets.h"
 #include "core/ElementsFilter.h"
 #include "core/PriorityReservoirSettings.h"
@@ -104,6 +105,10 @@ std::shared_ptr<Scenario> PriorityScenario::copySpecific() const {
                                                  getInterval(), getName());
   copy->hydrologicalStateConfiguration = hydrologicalStateConfiguration->copy();
   return copy;
+}
+
+std::shared_ptr<SceneryCheck> PriorityScenario::makeSceneryCheck() {
+  return SceneryCheckFactory::makePriorityCheck(weak_from_this());
 }
 
 void PriorityScenario::setSeriesIntervalsElements() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "common/Calendar.h"
 #include "core/Demand.h"
@@ -28,12 +29,16 @@ class PriorityNetworkBuilder {
     return node;
   }
 
-  // A reservoir without inflow whose target volume is `goal` of its capacity.
+  // A reservoir without inflow whose target volume is `goal` of its capacity, by default its
+  // minimum volume: nothing to keep above it. Its table starts from an empty row after the
+  // origin, so that every minimum volume lies within it.
   std::shared_ptr<Reservoir> reservoir(double minVol, double maxVol, double initVol,
-                                       unsigned int priority, double goal = 0.0) {
+                                       unsigned int priority,
+                                       std::optional<double> goal = std::nullopt) {
     auto r = std::static_pointer_cast<Reservoir>(node(ElementType::reservoir));
     ReservoirInfo& info = r->getReservoirInfo();
-    info.cav = {{500, 0, 0}, {505, 20, 50}, {510, 45, 200}, {515, 80, 500}, {520, 120, 2000}};
+    info.cav = {{500, 0, 0},    {500, 0, 0},    {505, 20, 50},
+                {510, 45, 200}, {515, 80, 500}, {520, 120, 2000}};
     info.minVol = minVol;
     info.maxVol = maxVol;
     info.initVol = initVol;
@@ -41,7 +46,7 @@ class PriorityNetworkBuilder {
          {SerieType::precipitation, SerieType::evaporation, SerieType::naturalIncrementalFlow}) {
       r->getInputSerie(type)->fill(0.0);
     }
-    r->getInputSerie(SerieType::targetVolume)->fill(goal);
+    r->getInputSerie(SerieType::targetVolume)->fill(goal.value_or(minVol / maxVol));
     settings(r)->setPriority(priority);
     return r;
   }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "common/PeriodWalker.h"
@@ -11,9 +12,10 @@
 
 namespace {
 
-// The São Francisco network of the rule tests, operated by priorities: supply first, then
-// livestock, irrigation and industry, the reservoirs from upstream down aiming at 60 to 80 % of
-// their capacity, and the mouth taking what is left.
+// The São Francisco network of the rule tests, operated by priorities. A demand never comes
+// after one below it: the tributary's livestock and industry first, then supply and irrigation on
+// the main stem; the reservoirs from upstream down aim at 60 to 80 % of their capacity, or at
+// their minimum where that is higher, and the mouth takes what is left.
 class PriorityRealisticNetwork {
  public:
   explicit PriorityRealisticNetwork(const Interval& interval)
@@ -27,10 +29,10 @@ class PriorityRealisticNetwork {
       for (const auto& link : basin->getDownstreamLinks()) link->setEnabled(false);
     }
     const std::map<ElementType, unsigned int> demandPriorities = {
-        {ElementType::humanDemand, 1},
-        {ElementType::animalDemand, 2},
-        {ElementType::irrigationDemand, 3},
-        {ElementType::industrialDemand, 4},
+        {ElementType::animalDemand, 1},
+        {ElementType::industrialDemand, 2},
+        {ElementType::humanDemand, 3},
+        {ElementType::irrigationDemand, 4},
         {ElementType::drain, 99}};
     for (const auto& [type, priority] : demandPriorities) {
       for (const auto& demand : ElementsFilter::filterByType(scenario->getElements(), {type})) {
@@ -40,8 +42,9 @@ class PriorityRealisticNetwork {
     for (std::size_t i = 0; i < rules.reservoirs.size(); ++i) {
       const auto& reservoir = rules.reservoirs[i];
       settings(reservoir)->setPriority(10 + 5 * static_cast<unsigned int>(i));
+      const ReservoirInfo& info = reservoir->getReservoirInfo();
       reservoir->getInputSerie(SerieType::targetVolume)
-          ->fill(0.6 + 0.05 * static_cast<double>(i % 5));
+          ->fill(std::max(0.6 + 0.05 * static_cast<double>(i % 5), info.minVol / info.maxVol));
     }
   }
 

@@ -11,6 +11,7 @@
 #include "core/ScenarioManager.h"
 #include "project/JsonLoadElement.h"
 #include "project/JsonSaveElement.h"
+#include "support/FileText.h"
 #include "support/TemporaryFolder.h"
 
 namespace projectfile {
@@ -21,16 +22,8 @@ class TemporaryFolder : public ::TemporaryFolder {
   TemporaryFolder() : ::TemporaryFolder("kova_project_") {}
 };
 
-inline std::string readFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
-inline void writeFile(const std::string& path, const std::string& text) {
-  std::ofstream(path, std::ios::binary) << text;
-}
+using ::readFile;
+using ::writeFile;
 
 // The hand-written project of tests/data/project.
 inline std::string goldenPath() {

@@ -1,0 +1,29 @@
+#include "CheckCommand.h"
+
+#include "ExitStatus.h"
+#include "OpenProject.h"
+#include "ScenarioFindings.h"
+#include "core/Scenario.h"
+
+Command CheckCommand::describe() {
+  return {"check",
+          "kova check P.sjson [--scenario NAME]...",
+          "check scenarios before running them",
+          "Runs the checks of the named scenarios (all when none is named) and prints every\n"
+          "finding as \"<element>: <message>\". Exit status 1 when there is any finding.\n",
+          {{}, {"scenario"}, {}, 1, 1},
+          run};
+}
+
+int CheckCommand::run(const CommandLine& line, Console& console) {
+  OpenProject project(line.positional(0));
+  std::size_t total = 0;
+  for (const auto& scenario : project.select(line.values("scenario"))) {
+    const std::size_t found = ScenarioFindings::checkAndPrint(scenario, console.out);
+    console.err << "scenario \"" << scenario->getName()
+                << "\": " << (found == 0 ? "no findings" : std::to_string(found) + " finding(s)")
+                << '\n';
+    total += found;
+  }
+  return total == 0 ? exitOk : exitFindings;
+}

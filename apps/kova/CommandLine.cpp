@@ -1,0 +1,96 @@
+#include "CommandLine.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "UsageError.h"
+
+namespace {
+
+bool isOption(const std::string& arg) { return arg.size() > 2 && arg.compare(0, 2, "--") == 0; }
+
+std::string plural(std::size_t count, const std::string& word) {
+  return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
+}
+
+}  // namespace
+
+CommandLine CommandLine::parse(const std::vector<std::string>& args, const OptionSpec& spec) {
+  CommandLine line;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& arg = args[i];
+    if (!isOption(arg)) {
+      line.positionalArgs.push_back(arg);
+      continue;
+    }
+    const std::size_t equals = arg.find('=');
+    const std::string name =
+        arg.substr(2, equals == std::string::npos ? std::string::npos : equals - 2);
+    if (spec.flags.count(name) != 0) {
+      if (equals != std::string::npos) throw UsageError("option --" + name + " takes no value");
+      line.flagsGiven.insert(name);
+    } else if (spec.valued.count(name) != 0 || spec.repeatable.count(name) != 0) {
+      if (equals != std::string::npos) {
+        line.take(name, arg.substr(equals + 1), spec);
+      } else if (i + 1 < args.size() && !isOption(args[i + 1])) {
+        line.take(name, args[++i], spec);
+      } else {
+        throw UsageError("option --" + name + " needs a value");
+      }
+    } else {
+      throw UsageError("unknown option " + arg.substr(0, equals));
+    }
+  }
+  const std::size_t count = line.positionalArgs.size();
+  if (count < spec.minPositional) {
+    throw UsageError("expected " + plural(spec.minPositional, "argument") + ", got " +
+                     std::to_string(count));
+  }
+  if (count > spec.maxPositional)
+    throw UsageError("unexpected argument \"" + line.positionalArgs[spec.maxPositional] + "\"");
+  return line;
+}
+
+void CommandLine::take(const std::string& name, const std::string& value, const OptionSpec& spec) {
+  if (value.empty()) throw UsageError("option --" + name + " needs a value");
+  auto& given = valuesGiven[name];
+  if (!given.empty() && spec.repeatable.count(name) == 0) {
+    throw UsageError("option --" + name + " given twice");
+  }
+  given.push_back(value);
+}
+
+bool CommandLine::has(const std::string& name) const {
+  return flagsGiven.count(name) != 0 || valuesGiven.count(name) != 0;
+}
+
+std::string CommandLine::value(const std::string& name, const std::string& fallback) const {
+  const auto found = valuesGiven.find(name);
+  return found == valuesGiven.end() ? fallback : found->second.front();
+}
+
+std::string CommandLine::required(const std::string& name) const {
+  const auto found = valuesGiven.find(name);
+  if (found == valuesGiven.end()) throw UsageError("option --" + name + " is required");
+  return found->second.front();
+}
+
+std::vector<std::string> CommandLine::values(const std::string& name) const {
+  const auto found = valuesGiven.find(name);
+  return found == valuesGiven.end() ? std::vector<std::string>() : found->second;
+}
+
+unsigned long CommandLine::number(const std::string& name, unsigned long fallback,
+                                  unsigned long minimum) const {
+  const auto found = valuesGiven.find(name);
+  if (found == valuesGiven.end()) return fallback;
+  const std::string& text = found->second.front();
+  const bool digits =
+      !text.empty() && text.size() <= 9 &&
+      std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
+  if (!digits || std::stoul(text) < minimum) {
+    throw UsageError("option --" + name + ": \"" + text + "\" is not a whole number of at least " +
+                     std::to_string(minimum));
+  }
+  return std::stoul(text);
+}

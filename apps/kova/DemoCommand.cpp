@@ -1,0 +1,49 @@
+#include "DemoCommand.h"
+
+#include "DemoProject.h"
+#include "ExitStatus.h"
+#include "NewProjectTarget.h"
+#include "ProgressReporter.h"
+
+namespace {
+
+constexpr const char* kProjectName = "sao_francisco.sjson";
+constexpr unsigned long kFirstYearOfRecord = 1931;
+constexpr unsigned long kLastYearOfRecord = 9999;  // the whole of the inflow file
+
+std::filesystem::path projectIn(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (!std::filesystem::is_directory(folder)) {
+    throw std::runtime_error(folder + ": cannot make the folder");
+  }
+  return std::filesystem::path(folder) / kProjectName;
+}
+
+}  // namespace
+
+Command DemoCommand::describe() {
+  return {"demo",
+          "kova demo DIR [--data FOLDER] [--until YEAR] [--quiet]",
+          "build the São Francisco demo project",
+          "Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
+          "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
+          "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
+          "simulation, a priority operation and yearly windows from today's storage. --until\n"
+          "YEAR ends the record in December of YEAR, for a quicker try.\n",
+          {{"data", "until"}, {}, {"quiet"}, 1, 1},
+          run};
+}
+
+int DemoCommand::run(const CommandLine& line, Console& console) {
+  const auto project = projectIn(line.positional(0));
+  NewProjectTarget::require(project);
+  ProgressReporter progress(console, line.has("quiet"));
+  const auto lastYear =
+      static_cast<unsigned int>(line.number("until", kLastYearOfRecord, kFirstYearOfRecord));
+  DemoProject::build(line.value("data", KOVA_DEMO_DATA), lastYear, project,
+                     progress.callback("saving", ProgressReporter::Form::steps));
+  progress.finish();
+  console.out << "demo project written to " << project.string() << '\n';
+  return exitOk;
+}

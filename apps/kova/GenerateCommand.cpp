@@ -1,0 +1,127 @@
+#include "GenerateCommand.h"
+
+#include <filesystem>
+#include <map>
+#include <stdexcept>
+
+#include "ExitStatus.h"
+#include "Interrupt.h"
+#include "NewProjectTarget.h"
+#include "OpenProject.h"
+#include "ProgressReporter.h"
+#include "UsageError.h"
+#include "core/ScenarioManager.h"
+#include "project/database/LoadProject.h"
+#include "project/database/SaveProject.h"
+
+namespace {
+
+constexpr unsigned long kMaxReservoirs = 1000;
+constexpr unsigned long kMaxDemands = 5000;
+constexpr unsigned long kMaxPeriods = 12000;  // a thousand years of months
+
+const std::map<std::string, GeneratedMode>& modes() {
+  static const std::map<std::string, GeneratedMode> names = {{"rule", GeneratedMode::rule},
+                                                             {"priority", GeneratedMode::priority}};
+  return names;
+}
+
+void removeProject(const std::filesystem::path& target) {
+  std::error_code ignored;
+  std::filesystem::remove(target, ignored);
+  std::filesystem::remove(LoadProject::databasePath(target.string()), ignored);
+}
+
+// The generated project is the only open one while it is saved, and nothing of it stays open
+// after, whatever happens.
+class SoleProject {
+ public:
+  SoleProject() { OpenProject::closeAll(); }
+  ~SoleProject() { OpenProject::closeAll(); }
+  SoleProject(const SoleProject&) = delete;
+  SoleProject& operator=(const SoleProject&) = delete;
+};
+
+// Writes the project file and its database; false when the saving was cancelled or the file
+// could not be written. On any failure removes what was begun, since neither file existed
+// before.
+bool save(const std::filesystem::path& target, const GeneratedProjectOptions& options,
+          ProgressReporter& progress) {
+  bool written = false;
+  try {
+    SoleProject sole;
+    ScenarioManager::getInstance().addScenery(0, GeneratedProject::make(options));
+    written = SaveProject::saveAs(target.string(),
+                                  progress.callback("saving", ProgressReporter::Form::steps));
+  } catch (...) {
+    progress.finish();
+    removeProject(target);
+    throw;
+  }
+  progress.finish();
+  if (!written) removeProject(target);
+  return written;
+}
+
+}  // namespace
+
+Command GenerateCommand::describe() {
+  return {"generate",
+          "kova generate OUT.sjson --reservoirs N --demands M --periods T [--mode rule|priority] "
+          "[--seed S] [--quiet]",
+          "make a synthetic project of a chosen size",
+          "Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
+          "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
+          "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
+          "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
+          "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
+          "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
+          "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n",
+          {{"reservoirs", "demands", "periods", "mode", "seed"}, {}, {"quiet"}, 1, 1},
+          run};
+}
+
+GeneratedProjectOptions GenerateCommand::optionsOf(const CommandLine& line) {
+  GeneratedProjectOptions options;
+  options.reservoirs = bounded(line, "reservoirs", 1, kMaxReservoirs);
+  options.demands = bounded(line, "demands", 0, kMaxDemands);
+  options.periods = bounded(line, "periods", 1, kMaxPeriods);
+  const std::string mode = line.value("mode", "rule");
+  const auto found = modes().find(mode);
+  if (found == modes().end()) {
+    throw UsageError("option --mode: \"" + mode + "\" is neither rule nor priority");
+  }
+  options.mode = found->second;
+  options.seed = line.number("seed", 1, 0);
+  return options;
+}
+
+unsigned int GenerateCommand::bounded(const CommandLine& line, const std::string& name,
+                                      unsigned long minimum, unsigned long maximum) {
+  line.required(name);  // absent: a UsageError
+  const unsigned long value = line.number(name, minimum, minimum);
+  if (value > maximum) {
+    throw UsageError("option --" + name + ": " + std::to_string(value) + " is more than " +
+                     std::to_string(maximum));
+  }
+  return static_cast<unsigned int>(value);
+}
+
+int GenerateCommand::run(const CommandLine& line, Console& console) {
+  const GeneratedProjectOptions options = optionsOf(line);
+  const std::filesystem::path target(line.positional(0));
+  NewProjectTarget::require(target);
+  ProgressReporter progress(console, line.has("quiet"));
+  Interrupt::Guard interruptible;
+  if (!save(target, options, progress)) {
+    if (!Interrupt::requested()) {
+      throw std::runtime_error(target.string() + ": could not be written");
+    }
+    console.out << target.string() << ": cancelled, nothing written\n";
+    return exitCancelled;
+  }
+  console.out << "generated " << target.string() << ": " << options.reservoirs << " reservoirs, "
+              << options.demands << " demands, " << options.periods << " months, "
+              << line.value("mode", "rule") << " mode, seed " << options.seed << '\n';
+  return exitOk;
+}

@@ -1,0 +1,29 @@
+#include "NewCommand.h"
+
+#include <stdexcept>
+
+#include "ExitStatus.h"
+#include "NewProjectTarget.h"
+#include "OpenProject.h"
+#include "project/database/ProjectFunctions.h"
+
+Command NewCommand::describe() {
+  return {"new",
+          "kova new P.sjson",
+          "create a blank priority project",
+          "Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
+          "elements over the months of the current year. P must not exist yet.\n",
+          {{}, {}, {}, 1, 1},
+          run};
+}
+
+int NewCommand::run(const CommandLine& line, Console& console) {
+  const std::filesystem::path path(line.positional(0));
+  NewProjectTarget::require(path);
+  OpenProject::closeAll();
+  const bool written = ProjectFunctions::createBlankPriorityProject(path.string());
+  OpenProject::closeAll();
+  if (!written) throw std::runtime_error(path.string() + ": could not be written");
+  console.out << "new project written to " << path.string() << '\n';
+  return exitOk;
+}

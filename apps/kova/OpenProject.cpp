@@ -1,0 +1,87 @@
+#include "OpenProject.h"
+
+#include <fstream>
+#include <stdexcept>
+
+#include "core/ConfigurationHeader.h"
+#include "core/Scenario.h"
+#include "core/ScenarioManager.h"
+#include "project/database/DatabaseProjectLoader.h"
+#include "project/database/DatabaseSearch.h"
+#include "project/database/LoadProject.h"
+#include "project/database/SQLStorage.h"
+
+namespace {
+
+std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+
+void requireReadableFile(const std::filesystem::path& path) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error)) {
+    throw std::runtime_error(path.string() + ": no such project file");
+  }
+  if (!std::filesystem::is_regular_file(path, error)) {
+    throw std::runtime_error(path.string() + ": not a project file");
+  }
+  if (!std::ifstream(path)) throw std::runtime_error(path.string() + ": cannot be read");
+}
+
+}  // namespace
+
+OpenProject::OpenProject(const std::filesystem::path& path, const Progress& progress) : file(path) {
+  requireReadableFile(path);
+  closeAll();
+  try {
+    all = LoadProject::load(path.string(), progress);
+  } catch (const std::exception& error) {
+    closeAll();
+    throw std::runtime_error(path.string() + ": " + error.what());
+  }
+  for (unsigned int i = 0; i < all.size(); ++i)
+    ScenarioManager::getInstance().addScenery(i, all[i]);
+}
+
+OpenProject::~OpenProject() { closeAll(); }
+
+void OpenProject::closeAll() {
+  ScenarioManager::getInstance().clear();
+  SQLStorage::deleteInstance();
+  ConfigurationHeader::reset();
+}
+
+std::shared_ptr<Scenario> OpenProject::scenario(const std::string& name) const {
+  std::string names;
+  for (const auto& candidate : all) {
+    if (candidate->getName() == name) return candidate;
+    names += (names.empty() ? "" : ", ") + quoted(candidate->getName());
+  }
+  throw std::runtime_error(file.string() + ": no scenario named " + quoted(name) +
+                           " (scenarios: " + (names.empty() ? "none" : names) + ")");
+}
+
+std::vector<std::shared_ptr<Scenario>> OpenProject::select(
+    const std::vector<std::string>& names) const {
+  if (names.empty()) return all;
+  std::vector<std::shared_ptr<Scenario>> chosen;
+  for (const auto& name : names) chosen.push_back(scenario(name));
+  return chosen;
+}
+
+unsigned int OpenProject::indexOf(const std::shared_ptr<Scenario>& scenario) const {
+  for (unsigned int i = 0; i < all.size(); ++i) {
+    if (all[i] == scenario) return i;
+  }
+  throw std::logic_error("OpenProject::indexOf(): scenario not in the project");
+}
+
+void OpenProject::loadLatestResults(const std::shared_ptr<Scenario>& scenario) const {
+  auto& storage = SQLStorage::getInstance().getStorageRef();
+  const auto hashes =
+      DatabaseSearch::getHashesOfResultsByScenID(storage, scenario->getDatabaseId());
+  if (hashes.empty()) {
+    throw std::runtime_error(file.string() + ": scenario " + quoted(scenario->getName()) +
+                             " has no stored results (run it first: kova run " + file.string() +
+                             " --scenario " + quoted(scenario->getName()) + ")");
+  }
+  DatabaseProjectLoader::loadResultsByHash(storage, scenario, hashes.back());
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class Scenario;
+
+// A project opened for one command: its scenarios are the ScenarioManager's and its database is
+// the open SQLStorage for as long as this object lives; both are closed when it goes.
+class OpenProject {
+ public:
+  using Progress = std::function<bool(long, long)>;
+
+  // Opens the project file at path and the database beside it. Failures are std::runtime_error
+  // texts that start with the file's name.
+  explicit OpenProject(const std::filesystem::path& path, const Progress& progress = nullptr);
+  ~OpenProject();
+  OpenProject(const OpenProject&) = delete;
+  OpenProject& operator=(const OpenProject&) = delete;
+
+  const std::filesystem::path& path() const { return file; }
+  const std::vector<std::shared_ptr<Scenario>>& scenarios() const { return all; }
+  // The scenario of that name. Throws std::runtime_error naming the project and its scenarios.
+  std::shared_ptr<Scenario> scenario(const std::string& name) const;
+  // The scenarios of those names, in the order given; every scenario when names is empty.
+  std::vector<std::shared_ptr<Scenario>> select(const std::vector<std::string>& names) const;
+  // The index of scenario in the ScenarioManager.
+  unsigned int indexOf(const std::shared_ptr<Scenario>& scenario) const;
+  // Gives scenario the results of its latest stored run. Throws std::runtime_error when it has
+  // none.
+  void loadLatestResults(const std::shared_ptr<Scenario>& scenario) const;
+
+  // Ends the process-wide state of an open project (scenarios and database).
+  static void closeAll();
+
+ private:
+  std::filesystem::path file;
+  std::vector<std::shared_ptr<Scenario>> all;
+};

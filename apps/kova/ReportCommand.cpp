@@ -1,0 +1,24 @@
+#include "ReportCommand.h"
+
+#include "ExitStatus.h"
+#include "OpenProject.h"
+#include "reports/GeneralSceneryReport.h"
+
+Command ReportCommand::describe() {
+  return {"report",
+          "kova report P.sjson --scenario NAME",
+          "the general report of a scenario",
+          "Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
+          "the volume each kind of demand requires over the scenario's period.\n",
+          {{"scenario"}, {}, {}, 1, 1},
+          run};
+}
+
+int ReportCommand::run(const CommandLine& line, Console& console) {
+  OpenProject project(line.positional(0));
+  for (const auto& text :
+       GeneralSceneryReport::makeLines(*project.scenario(line.required("scenario")))) {
+    console.out << text << '\n';
+  }
+  return exitOk;
+}

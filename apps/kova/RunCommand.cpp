@@ -1,0 +1,73 @@
+#include "RunCommand.h"
+
+#include "ExitStatus.h"
+#include "Interrupt.h"
+#include "OpenProject.h"
+#include "ProgressReporter.h"
+#include "ScenarioFindings.h"
+#include "core/KOVACoreProgressBar.h"
+#include "core/Scenario.h"
+#include "core/ScenarioManager.h"
+#include "reports/CSVWriteResults.h"
+
+Command RunCommand::describe() {
+  return {"run",
+          "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet]",
+          "run scenarios and store their results",
+          "Runs the named scenarios (all when none is named) one after the other, printing each\n"
+          "one's status. Results are stored in the project database unless --no-save; --csv DIR\n"
+          "also writes them as CSV files under DIR. Progress goes to standard error (none with\n"
+          "--quiet). Ctrl-C cancels the scenario running and leaves the database as it was.\n"
+          "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
+          {{"csv"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
+          run};
+}
+
+int RunCommand::run(const CommandLine& line, Console& console) {
+  ProgressReporter progress(console, line.has("quiet"));
+  Interrupt::Guard interruptible;
+  OpenProject project(line.positional(0),
+                      progress.callback("opening", ProgressReporter::Form::steps));
+  progress.finish();
+  int status = exitOk;
+  for (const auto& scenario : project.select(line.values("scenario"))) {
+    const int outcome = runScenario(project, scenario, line, console, progress);
+    if (outcome == exitCancelled) return exitCancelled;
+    if (outcome != exitOk) status = outcome;
+  }
+  return status;
+}
+
+int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Scenario>& scenario,
+                            const CommandLine& line, Console& console, ProgressReporter& progress) {
+  std::function<bool(long, long)> save;
+  if (!line.has("no-save"))
+    save = progress.callback("saving " + scenario->getName(), ProgressReporter::Form::percentage);
+  try {
+    ScenarioManager::getInstance().executeScenery(
+        project.indexOf(scenario),
+        progress.callback(scenario->getName(), ProgressReporter::Form::percentage), save);
+  } catch (const KOVACoreProgressBar::ProgressCancelException&) {
+    progress.finish();
+    console.out << scenario->getName() << ": results not stored, saving was cancelled\n";
+    return exitCancelled;
+  }
+  progress.finish();
+  const auto status = scenario->getSceneryStatus();
+  console.out << scenario->getName() << ": " << status.getName() << '\n';
+  switch (status.getType()) {
+    case SceneryStatus::success:
+      break;
+    case SceneryStatus::cancelled:
+      return exitCancelled;
+    default:
+      ScenarioFindings::printLast(*scenario, console.out);
+      return exitFindings;
+  }
+  if (line.has("csv")) {
+    const auto files = CSVWriteResults::writeScenarios({scenario}, line.value("csv", ""));
+    console.out << scenario->getName() << ": " << files.size() << " CSV file(s) written under "
+                << line.value("csv", "") << '\n';
+  }
+  return exitOk;
+}

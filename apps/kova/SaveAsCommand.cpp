@@ -1,0 +1,33 @@
+#include "SaveAsCommand.h"
+
+#include "ExitStatus.h"
+#include "NewProjectTarget.h"
+#include "OpenProject.h"
+#include "ProgressReporter.h"
+#include "project/database/SaveProject.h"
+
+Command SaveAsCommand::describe() {
+  return {"save-as",
+          "kova save-as P.sjson Q.sjson [--quiet]",
+          "copy a project under another name",
+          "Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
+          "Q must not exist yet.\n",
+          {{}, {}, {"quiet"}, 2, 2},
+          run};
+}
+
+int SaveAsCommand::run(const CommandLine& line, Console& console) {
+  const std::filesystem::path target(line.positional(1));
+  NewProjectTarget::require(target);
+  ProgressReporter progress(console, line.has("quiet"));
+  OpenProject project(line.positional(0),
+                      progress.callback("opening", ProgressReporter::Form::steps));
+  if (!SaveProject::saveAs(target.string(),
+                           progress.callback("saving", ProgressReporter::Form::steps))) {
+    progress.finish();
+    throw std::runtime_error(target.string() + ": could not be written");
+  }
+  progress.finish();
+  console.out << "saved as " << target.string() << '\n';
+  return exitOk;
+}

@@ -1,0 +1,27 @@
+#include "ScenarioFindings.h"
+
+#include "checks/SceneryCheck.h"
+#include "core/PriorityScenario.h"
+
+std::size_t ScenarioFindings::checkAndPrint(const std::shared_ptr<Scenario>& scenario,
+                                            std::ostream& out) {
+  scenario->executeSceneryCheck();
+  return printLast(*scenario, out);
+}
+
+std::size_t ScenarioFindings::printLast(const Scenario& scenario, std::ostream& out) {
+  std::size_t printed = 0;
+  if (const auto& check = scenario.getSceneryCheck()) {
+    for (const auto& finding : check->getAllErrors()) {
+      out << finding.elementName << ": " << finding.message << '\n';
+      ++printed;
+    }
+  }
+  const auto* priority = dynamic_cast<const PriorityScenario*>(&scenario);
+  if (priority && priority->getInfeasibleDate()) {
+    out << scenario.getName() << ": no feasible allocation on "
+        << priority->getInfeasibleDate()->toString("%d-%m-%Y") << '\n';
+    ++printed;
+  }
+  return printed;
+}

@@ -1,0 +1,261 @@
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "GeneratedProject.h"
+#include "KovaApp.h"
+#include "OpenProject.h"
+#include "common/PeriodWalker.h"
+#include "core/ElementsFilter.h"
+#include "core/PrioritySettings.h"
+#include "core/ReservoirRuleSettings.h"
+#include "core/ScenarioManager.h"
+#include "project/database/SQLiteOrmUtilities.h"
+#include "support/ExpectThrow.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+GeneratedProjectOptions small(GeneratedMode mode, std::uint64_t seed = 7) {
+  GeneratedProjectOptions options;
+  options.reservoirs = 9;  // one of each kind of rule
+  options.demands = 16;
+  options.periods = 72;
+  options.mode = mode;
+  options.seed = seed;
+  return options;
+}
+
+struct Outcome {
+  int status;
+  std::string out, err;
+};
+
+Outcome kova(const std::vector<std::string>& args) {
+  std::ostringstream out, err;
+  Console console{out, err};
+  const int status = KovaApp::run(args, console);
+  return {status, out.str(), err.str()};
+}
+
+std::string readFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+// Every row of every table, without the columns that hold the time of writing.
+std::string contentWithoutTimes(const std::string& path) {
+  SQLite::Database database(path, SQLite::OPEN_READONLY);
+  std::string text;
+  for (const auto& table : SQLiteOrmUtilities::tables()) {
+    std::string columns;
+    for (const auto& column : table.columns) {
+      if (column.name == "timeStamp") continue;
+      columns += (columns.empty() ? "\"" : ", \"") + column.name + "\"";
+    }
+    SQLite::Statement query(database,
+                            "SELECT " + columns + " FROM \"" + table.name + "\" ORDER BY 1");
+    text += table.name + "\n";
+    while (query.executeStep()) {
+      for (int column = 0; column < query.getColumnCount(); ++column) {
+        text += query.getColumn(column).getString() + ",";
+      }
+      text += "\n";
+    }
+  }
+  return text;
+}
+
+Scenario::Elements reservoirsOf(const Scenario& scenario) {
+  return ElementsFilter::filterByType(scenario.getElements(), {ElementType::reservoir});
+}
+
+// For every reservoir and date: initial + inflows + rain - evaporation - release - spill =
+// final, within 1e-6 of the largest of those volumes. Gives the number of spills.
+std::size_t expectConservation(const Scenario& scenario) {
+  std::size_t checked = 0, spills = 0;
+  PeriodWalker::forEach(scenario.getInterval(), [&](const Date& date) {
+    for (const auto& reservoir : reservoirsOf(scenario)) {
+      const auto value = [&](SerieType type) {
+        return reservoir->getOutputSerie(type, 0)->getValue(date);
+      };
+      const std::vector<double> in = {
+          value(SerieType::initialVolume), value(SerieType::upstreamControlledVolume),
+          value(SerieType::upstreamUncontrolledVolume), value(SerieType::precipitatedVolume)};
+      const std::vector<double> out = {value(SerieType::evaporatedVolume),
+                                       value(SerieType::releasedVolume),
+                                       value(SerieType::spilledVolume)};
+      double balance = 0.0, scale = 1.0;
+      for (double volume : in) balance += volume;
+      for (double volume : out) balance -= volume;
+      for (double volume : in) scale = std::max(scale, volume);
+      for (double volume : out) scale = std::max(scale, volume);
+      ASSERT_NEAR(balance, value(SerieType::finalVolume), 1e-6 * scale)
+          << reservoir->getName() << " " << date.toString("%m/%Y");
+      ++checked;
+      if (value(SerieType::spilledVolume) > 0.0) ++spills;
+    }
+  });
+  EXPECT_EQ(checked, scenario.getInterval().period() * reservoirsOf(scenario).size());
+  return spills;
+}
+
+class GeneratedProjectTest : public ::testing::Test {
+ protected:
+  void SetUp() override { OpenProject::closeAll(); }
+  void TearDown() override { OpenProject::closeAll(); }
+
+  TemporaryFolder folder{"kova_generated_"};
+};
+
+class GeneratedModeTest : public GeneratedProjectTest,
+                          public ::testing::WithParamInterface<GeneratedMode> {};
+
+}  // namespace
+
+TEST_P(GeneratedModeTest, PassesItsChecksRunsAndConservesWaterAtEveryReservoir) {
+  const auto scenario = GeneratedProject::make(small(GetParam()));
+  ASSERT_TRUE(scenario->run(nullptr));
+  EXPECT_EQ(scenario->getSceneryStatus().getType(), SceneryStatus::success);
+  EXPECT_GT(expectConservation(*scenario), 0u) << "full lakes are part of the test";
+}
+
+TEST_P(GeneratedModeTest, TheSavedProjectOpensAndRuns) {
+  const std::string path = folder.file("gerado.sjson");
+  const std::string mode = GetParam() == GeneratedMode::rule ? "rule" : "priority";
+  const auto made = kova({"generate", path, "--reservoirs", "4", "--demands", "6", "--periods",
+                          "24", "--mode", mode, "--quiet"});
+  ASSERT_EQ(made.status, 0) << made.err;
+  EXPECT_EQ(made.out, "generated " + path + ": 4 reservoirs, 6 demands, 24 months, " + mode +
+                          " mode, seed 1\n");
+  EXPECT_EQ(made.err, "");
+  OpenProject project(path);
+  ASSERT_EQ(project.scenarios().size(), 1u);
+  const auto& scenario = project.scenarios().front();
+  EXPECT_EQ(reservoirsOf(*scenario).size(), 4u);
+  ASSERT_TRUE(ScenarioManager::getInstance().executeScenery(0, nullptr, nullptr));
+  expectConservation(*scenario);
+}
+
+INSTANTIATE_TEST_SUITE_P(BothModes, GeneratedModeTest,
+                         ::testing::Values(GeneratedMode::rule, GeneratedMode::priority));
+
+TEST_F(GeneratedProjectTest, HasEveryKindOfElementRuleAndSeveralPriorities) {
+  const auto rule = GeneratedProject::make(small(GeneratedMode::rule));
+  std::set<ElementType> kinds;
+  for (const auto& element : rule->getElements()) kinds.insert(element->getType());
+  EXPECT_EQ(kinds,
+            (std::set<ElementType>{
+                ElementType::reservoir, ElementType::humanDemand, ElementType::animalDemand,
+                ElementType::industrialDemand, ElementType::irrigationDemand, ElementType::drain,
+                ElementType::junction, ElementType::naturalLink, ElementType::artificialLink}));
+  std::set<int> rules;
+  for (const auto& reservoir : reservoirsOf(*rule)) {
+    rules.insert(Scenario::getSettings<ReservoirRuleSettings>(reservoir, rule->getSettingsManager())
+                     ->getRule()
+                     ->getType()
+                     .getId());
+  }
+  EXPECT_EQ(rules, (std::set<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}));
+
+  const auto priority = GeneratedProject::make(small(GeneratedMode::priority));
+  std::set<unsigned int> levels;
+  for (const auto& element : priority->getElements()) {
+    if (const auto settings = std::dynamic_pointer_cast<PrioritySettings>(
+            priority->getSettingsManager().getSettings(element->getId()))) {
+      levels.insert(settings->getPriority());
+    }
+  }
+  EXPECT_GE(levels.size(), 5u);
+  EXPECT_EQ(*levels.rbegin(), 99u) << "the drain keeps the priority it is made with";
+}
+
+TEST_F(GeneratedProjectTest, SameSeedGivesTheSameFilesAndAnotherSeedOtherInflows) {
+  for (const std::string mode : {"rule", "priority"}) {
+    SCOPED_TRACE(mode);
+    const auto generate = [&](const std::string& name, const std::string& seed) {
+      const std::string path = folder.file(name);
+      const auto made = kova({"generate", path, "--reservoirs", "3", "--demands", "5", "--periods",
+                              "36", "--mode", mode, "--seed", seed, "--quiet"});
+      EXPECT_EQ(made.status, 0) << made.err;
+      return path;
+    };
+    const auto first = generate(mode + "1.sjson", "42");
+    const auto second = generate(mode + "2.sjson", "42");
+    EXPECT_EQ(readFile(first), readFile(second));
+    EXPECT_EQ(contentWithoutTimes(first + ".sqlite"), contentWithoutTimes(second + ".sqlite"));
+    const auto other = generate(mode + "3.sjson", "43");
+    EXPECT_NE(contentWithoutTimes(first + ".sqlite"), contentWithoutTimes(other + ".sqlite"));
+  }
+  const auto inflows = [](std::uint64_t seed) {
+    const auto scenario = GeneratedProject::make(small(GeneratedMode::rule, seed));
+    return reservoirsOf(*scenario)
+        .front()
+        ->getInputSerie(SerieType::naturalIncrementalFlow)
+        ->getMapOfJulianToValues();
+  };
+  EXPECT_EQ(inflows(42), inflows(42));
+  EXPECT_NE(inflows(42), inflows(43));
+}
+
+TEST_F(GeneratedProjectTest, BadOptionsAreRefusedWithTheirTexts) {
+  const std::string path = folder.file("p.sjson");
+  const std::string tail = "; try 'kova generate --help'\n";
+  const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+      {{"--demands", "1", "--periods", "1"}, "option --reservoirs is required"},
+      {{"--reservoirs", "1", "--periods", "1"}, "option --demands is required"},
+      {{"--reservoirs", "1", "--demands", "1"}, "option --periods is required"},
+      {{"--reservoirs", "0", "--demands", "1", "--periods", "1"},
+       "option --reservoirs: \"0\" is not a whole number of at least 1"},
+      {{"--reservoirs", "1", "--demands", "-1", "--periods", "1"},
+       "option --demands: \"-1\" is not a whole number of at least 0"},
+      {{"--reservoirs", "1", "--demands", "x", "--periods", "1"},
+       "option --demands: \"x\" is not a whole number of at least 0"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "0"},
+       "option --periods: \"0\" is not a whole number of at least 1"},
+      {{"--reservoirs", "1001", "--demands", "1", "--periods", "1"},
+       "option --reservoirs: 1001 is more than 1000"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "12001"},
+       "option --periods: 12001 is more than 12000"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "1", "--mode", "rules"},
+       "option --mode: \"rules\" is neither rule nor priority"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "1", "--seed", "1.5"},
+       "option --seed: \"1.5\" is not a whole number of at least 0"},
+  };
+  for (const auto& [options, text] : cases) {
+    SCOPED_TRACE(text);
+    std::vector<std::string> args = {"generate", path};
+    args.insert(args.end(), options.begin(), options.end());
+    const auto refused = kova(args);
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.err, "kova generate: " + text + tail);
+    EXPECT_FALSE(std::filesystem::exists(path));
+  }
+  auto none = small(GeneratedMode::rule);
+  none.reservoirs = 0;
+  EXPECT_THROW_TEXT((void)GeneratedProject::make(none), std::invalid_argument,
+                    "GeneratedProject::make(): at least one reservoir");
+  auto instant = small(GeneratedMode::priority);
+  instant.periods = 0;
+  EXPECT_THROW_TEXT((void)GeneratedProject::make(instant), std::invalid_argument,
+                    "GeneratedProject::make(): at least one period");
+}
+
+TEST_F(GeneratedProjectTest, AnExistingProjectIsNeverOverwritten) {
+  const std::string path = folder.file("p.sjson");
+  std::ofstream(path + ".sqlite") << "mine";
+  const auto refused =
+      kova({"generate", path, "--reservoirs", "1", "--demands", "0", "--periods", "1", "--quiet"});
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_EQ(refused.err,
+            "kova generate: " + path + ".sqlite: already exists (choose another name)\n");
+  EXPECT_EQ(readFile(path + ".sqlite"), "mine");
+  EXPECT_FALSE(std::filesystem::exists(path));
+}

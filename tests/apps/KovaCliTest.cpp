@@ -1,0 +1,250 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "CommandLine.h"
+#include "ExitStatus.h"
+#include "KovaApp.h"
+#include "UsageError.h"
+#include "support/ExpectThrow.h"
+#include "support/FileText.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+const OptionSpec kSpec{{"scenario", "format"}, {"only"}, {"quiet"}, 1, 2};
+
+// What a command printed and how it ended.
+struct Outcome {
+  int status;
+  std::string out, err;
+};
+
+Outcome kova(const std::vector<std::string>& args) {
+  std::ostringstream out, err;
+  Console console{out, err, false};
+  const int status = KovaApp::run(args, console);
+  return {status, out.str(), err.str()};
+}
+
+}  // namespace
+
+TEST(CommandLine, ReadsPositionalsValuesRepeatsAndFlagsInAnyOrder) {
+  const auto line = CommandLine::parse(
+      {"--only", "a", "p.sjson", "--scenario=Base", "--quiet", "--only", "b", "q.sjson"}, kSpec);
+  EXPECT_EQ(line.positional(), (std::vector<std::string>{"p.sjson", "q.sjson"}));
+  EXPECT_EQ(line.value("scenario", ""), "Base");
+  EXPECT_EQ(line.value("format", "table"), "table");
+  EXPECT_EQ(line.values("only"), (std::vector<std::string>{"a", "b"}));
+  EXPECT_TRUE(line.has("quiet"));
+}
+
+TEST(CommandLine, RefusesWhatItCannotActOnNamingTheArgument) {
+  EXPECT_THROW_TEXT(CommandLine::parse({"p", "--colour", "x"}, kSpec), UsageError,
+                    "unknown option --colour");
+  EXPECT_THROW_TEXT(CommandLine::parse({"p", "--scenario"}, kSpec), UsageError,
+                    "option --scenario needs a value");
+  EXPECT_THROW_TEXT(CommandLine::parse({"p", "--scenario", "--quiet"}, kSpec), UsageError,
+                    "option --scenario needs a value");
+  EXPECT_THROW_TEXT(CommandLine::parse({"p", "--scenario=a", "--scenario=b"}, kSpec), UsageError,
+                    "option --scenario given twice");
+  EXPECT_THROW_TEXT(CommandLine::parse({"p", "--quiet=yes"}, kSpec), UsageError,
+                    "option --quiet takes no value");
+  EXPECT_THROW_TEXT(CommandLine::parse({}, kSpec), UsageError, "expected 1 argument, got 0");
+  EXPECT_THROW_TEXT(CommandLine::parse({"a", "b", "c"}, kSpec), UsageError,
+                    "unexpected argument \"c\"");
+}
+
+TEST(CommandLine, NumbersAreWholeAndAtLeastTheirMinimum) {
+  const OptionSpec spec{{"window"}, {}, {}, 0, 0};
+  EXPECT_EQ(CommandLine::parse({}, spec).number("window", 1, 1), 1u);
+  EXPECT_EQ(CommandLine::parse({"--window", "12"}, spec).number("window", 1, 1), 12u);
+  for (const std::string bad : {"0", "-1", "1.5", "x", "12345678901"}) {
+    EXPECT_THROW_TEXT(CommandLine::parse({"--window", bad}, spec).number("window", 1, 1),
+                      UsageError,
+                      "option --window: \"" + bad + "\" is not a whole number of at least 1");
+  }
+}
+
+TEST(KovaApp, HelpListsTheCommandsAndEachCommandHasItsOwn) {
+  const auto overview = kova({"--help"});
+  EXPECT_EQ(overview.status, exitOk);
+  for (const auto& command : KovaApp::commands()) {
+    EXPECT_NE(overview.out.find("  " + command.name + " "), std::string::npos) << command.name;
+    const auto help = kova({command.name, "--help"});
+    EXPECT_EQ(help.status, exitOk);
+    EXPECT_EQ(help.out.rfind("Usage: " + command.usage, 0), 0u) << command.name;
+  }
+  EXPECT_EQ(kova({}).status, exitUsage);
+}
+
+TEST(KovaApp, UsageErrorsAreOneLineWithAPointerToHelp) {
+  const auto unknown = kova({"simulate", "p.sjson"});
+  EXPECT_EQ(unknown.status, exitUsage);
+  EXPECT_EQ(unknown.err, "kova: unknown command \"simulate\"; try 'kova --help'\n");
+  const auto option = kova({"info", "p.sjson", "--fast"});
+  EXPECT_EQ(option.status, exitUsage);
+  EXPECT_EQ(option.err, "kova info: unknown option --fast; try 'kova info --help'\n");
+  const auto missing = kova({"report", "p.sjson"});
+  EXPECT_EQ(missing.status, exitUsage);
+  EXPECT_EQ(missing.err, "kova report: p.sjson: no such project file\n");
+}
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::size_t linesOf(const std::string& text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+// Each test gets the demo project over 1931-1933 in a folder of its own.
+class KovaProject : public ::testing::Test {
+ protected:
+  KovaProject() : folder("kova_cli_") {}
+
+  void SetUp() override {
+    const auto made =
+        kova({"demo", folder.file(""), "--data", KOVA_DEMO_DATA, "--until", "1933", "--quiet"});
+    ASSERT_EQ(made.status, exitOk) << made.err;
+    project = folder.file("sao_francisco.sjson");
+  }
+
+  TemporaryFolder folder;
+  std::string project;
+};
+
+}  // namespace
+
+TEST_F(KovaProject, InfoSummarisesTheScenariosAndCountsTheirElements) {
+  const auto info = kova({"info", project});
+  ASSERT_EQ(info.status, exitOk) << info.err;
+  EXPECT_NE(info.out.find("Cenário 2: Prioridades\n  Tipo: Otimizador por prioridades\n"),
+            std::string::npos);
+  EXPECT_NE(info.out.find("  Período: 01/1931 a 12/1933 (Mensal)"), std::string::npos);
+  EXPECT_NE(info.out.find("Elementos de Regras:\n  Reservatório: 5\n"), std::string::npos);
+  EXPECT_NE(info.out.find("  Trecho natural: 15\n"), std::string::npos);
+}
+
+TEST_F(KovaProject, RunStoresResultsThatMetricsReportAndNoSaveLeavesTheDatabase) {
+  const std::string database = project + ".sqlite";
+  const std::string before = readFile(database);
+  const auto unsaved = kova({"run", project, "--scenario", "Regras", "--no-save", "--quiet"});
+  ASSERT_EQ(unsaved.status, exitOk) << unsaved.err;
+  EXPECT_EQ(unsaved.out, "Regras: Cenário executado com sucesso!\n");
+  EXPECT_EQ(readFile(database), before);
+  const auto none = kova({"metrics", project, "--scenario", "Regras"});
+  EXPECT_EQ(none.status, exitUsage);
+  EXPECT_NE(none.err.find("scenario \"Regras\" has no stored results"), std::string::npos)
+      << none.err;
+
+  const auto run = kova({"run", project, "--quiet", "--csv", folder.file("csv")});
+  ASSERT_EQ(run.status, exitOk) << run.err;
+  EXPECT_NE(run.out.find("Prioridades: Cenário executado com sucesso!\n"), std::string::npos);
+  EXPECT_TRUE(fs::is_directory(folder.file("csv")));
+
+  const auto table = kova({"metrics", project, "--scenario", "Prioridades"});
+  ASSERT_EQ(table.status, exitOk) << table.err;
+  EXPECT_EQ(table.out.rfind("Reservatórios  ", 0), 0u);
+  EXPECT_NE(table.out.find("Confiabilidade para demandas (%)"), std::string::npos);
+  EXPECT_NE(table.out.find("Transposição (PISF)"), std::string::npos);
+
+  const auto csv = kova(
+      {"metrics", project, "--scenario", "Regras", "--elements", "demands", "--format", "csv"});
+  ASSERT_EQ(csv.status, exitOk) << csv.err;
+  EXPECT_EQ(linesOf(csv.out), 1u + 8u);  // the headings, then seven demands and the mouth
+  EXPECT_EQ(csv.out.rfind("Elemento,Volume acumulado dos déficits (hm³),", 0), 0u);
+
+  const auto json = kova({"metrics", project, "--scenario", "Regras", "--format", "json"});
+  ASSERT_EQ(json.status, exitOk) << json.err;
+  const auto parsed = nlohmann::json::parse(json.out);
+  ASSERT_EQ(parsed["Reservatórios"].size(), 5u);
+  EXPECT_EQ(parsed["Reservatórios"][0]["element"], "Retiro Baixo");
+  EXPECT_EQ(parsed["Demandas"].size(), 8u);
+
+  // The windowed scenario has one window per November: 1931-32 and 1932-33.
+  EXPECT_EQ(kova({"metrics", project, "--scenario", "Janelas a partir do armazenamento atual",
+                  "--window", "2"})
+                .status,
+            exitOk);
+  EXPECT_EQ(
+      kova({"metrics", project, "--scenario", "Janelas a partir do armazenamento atual", "--window",
+            "3"})
+          .err,
+      "kova metrics: option --window: scenario \"Janelas a partir do armazenamento atual\" has 2 "
+      "window(s); try 'kova metrics --help'\n");
+}
+
+TEST_F(KovaProject, ReportAndExportsWriteWhatTheyName) {
+  const auto report = kova({"report", project, "--scenario", "Regras"});
+  ASSERT_EQ(report.status, exitOk) << report.err;
+  EXPECT_NE(report.out.find("5"), std::string::npos);
+
+  ASSERT_EQ(
+      kova({"export", "cav", project, "--scenario", "Regras", "--out", folder.file("out")}).status,
+      exitOk);
+  const std::string cav = readFile(folder.file("out/Regras_cav.txt"));
+  EXPECT_NE(cav.find("Três Marias\t515.77\t0\t0"), std::string::npos) << cav.substr(0, 200);
+  const auto inputs =
+      kova({"export", "inputs", project, "--scenario", "Regras", "--out", folder.file("out")});
+  ASSERT_EQ(inputs.status, exitOk) << inputs.err;
+  EXPECT_EQ(inputs.out, "40 file(s) written under " + folder.file("out") + "\n");
+  EXPECT_EQ(
+      kova({"export", "csv", project, "--scenario", "Regras", "--out", folder.file("out")}).status,
+      exitUsage);  // nothing stored yet
+  EXPECT_EQ(kova({"export", "shapes", project, "--scenario", "Regras", "--out", "x"}).err,
+            "kova export: nothing to export named \"shapes\" (csv, inputs or cav); try 'kova "
+            "export --help'\n");
+}
+
+TEST_F(KovaProject, SaveAsCopiesTheProjectAndNeverOverwrites) {
+  const std::string copy = folder.file("copia.sjson");
+  const auto saved = kova({"save-as", project, copy, "--quiet"});
+  ASSERT_EQ(saved.status, exitOk) << saved.err;
+  EXPECT_TRUE(fs::exists(copy + ".sqlite"));
+  EXPECT_EQ(kova({"info", copy}).out, kova({"info", project}).out);
+  const std::string before = readFile(copy);
+  const auto again = kova({"save-as", project, copy, "--quiet"});
+  EXPECT_EQ(again.status, exitUsage);
+  EXPECT_EQ(again.err, "kova save-as: " + copy + ": already exists (choose another name)\n");
+  EXPECT_EQ(readFile(copy), before);
+}
+
+TEST_F(KovaProject, ABadProjectOrScenarioIsNamedInOneLine) {
+  const auto unknown = kova({"check", project, "--scenario", "Seca"});
+  EXPECT_EQ(unknown.status, exitUsage);
+  EXPECT_EQ(unknown.err,
+            "kova check: " + project +
+                ": no scenario named \"Seca\" (scenarios: \"Regras\", \"Prioridades\", "
+                "\"Janelas a partir do armazenamento atual\")\n");
+
+  const std::string broken = folder.file("quebrado.sjson");
+  fs::copy_file(project + ".sqlite", broken + ".sqlite");
+  std::ofstream(broken) << "{\"scenarios\": [";
+  const auto malformed = kova({"info", broken});
+  EXPECT_EQ(malformed.status, exitUsage);
+  EXPECT_EQ(malformed.err.rfind("kova info: " + broken + ": ", 0), 0u) << malformed.err;
+  EXPECT_EQ(linesOf(malformed.err), 1u);
+
+  const auto folderGiven = kova({"info", folder.file("")});
+  EXPECT_EQ(folderGiven.err, "kova info: " + folder.file("") + ": not a project file\n");
+}
+
+TEST(KovaNew, MakesABlankPriorityProjectThatOpensAndChecks) {
+  TemporaryFolder folder("kova_cli_");
+  const std::string project = folder.file("novo.sjson");
+  const auto made = kova({"new", project});
+  ASSERT_EQ(made.status, exitOk) << made.err;
+  EXPECT_TRUE(fs::exists(project + ".sqlite"));
+  const auto info = kova({"info", project});
+  ASSERT_EQ(info.status, exitOk) << info.err;
+  EXPECT_NE(info.out.find("  Tipo: Otimizador por prioridades\n"), std::string::npos) << info.out;
+  EXPECT_EQ(kova({"new", project}).err,
+            "kova new: " + project + ": already exists (choose another name)\n");
+  EXPECT_EQ(kova({"new", folder.file("nao/existe.sjson")}).err,
+            "kova new: " + folder.file("nao") + ": no such folder\n");
+}

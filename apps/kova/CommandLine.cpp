@@ -15,7 +15,7 @@ std::string plural(std::size_t count, const std::string& word) {
 
 }  // namespace
 
-CommandLine CommandLine::parse(const std::vector<std::string>& args, const OptionSpec& spec) {
+CommandLine CommandLine::parse(const std::vector<std::string>& args, const OptionSpec& accepted) {
   CommandLine line;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
@@ -26,14 +26,14 @@ CommandLine CommandLine::parse(const std::vector<std::string>& args, const Optio
     const std::size_t equals = arg.find('=');
     const std::string name =
         arg.substr(2, equals == std::string::npos ? std::string::npos : equals - 2);
-    if (spec.flags.count(name) != 0) {
+    if (accepted.flags.count(name) != 0) {
       if (equals != std::string::npos) throw UsageError("option --" + name + " takes no value");
       line.flagsGiven.insert(name);
-    } else if (spec.valued.count(name) != 0 || spec.repeatable.count(name) != 0) {
+    } else if (accepted.valued.count(name) != 0 || accepted.repeatable.count(name) != 0) {
       if (equals != std::string::npos) {
-        line.take(name, arg.substr(equals + 1), spec);
+        line.take(name, arg.substr(equals + 1), accepted);
       } else if (i + 1 < args.size() && !isOption(args[i + 1])) {
-        line.take(name, args[++i], spec);
+        line.take(name, args[++i], accepted);
       } else {
         throw UsageError("option --" + name + " needs a value");
       }
@@ -42,19 +42,20 @@ CommandLine CommandLine::parse(const std::vector<std::string>& args, const Optio
     }
   }
   const std::size_t count = line.positionalArgs.size();
-  if (count < spec.minPositional) {
-    throw UsageError("expected " + plural(spec.minPositional, "argument") + ", got " +
+  if (count < accepted.minPositional) {
+    throw UsageError("expected " + plural(accepted.minPositional, "argument") + ", got " +
                      std::to_string(count));
   }
-  if (count > spec.maxPositional)
-    throw UsageError("unexpected argument \"" + line.positionalArgs[spec.maxPositional] + "\"");
+  if (count > accepted.maxPositional)
+    throw UsageError("unexpected argument \"" + line.positionalArgs[accepted.maxPositional] + "\"");
   return line;
 }
 
-void CommandLine::take(const std::string& name, const std::string& value, const OptionSpec& spec) {
+void CommandLine::take(const std::string& name, const std::string& value,
+                       const OptionSpec& accepted) {
   if (value.empty()) throw UsageError("option --" + name + " needs a value");
   auto& given = valuesGiven[name];
-  if (!given.empty() && spec.repeatable.count(name) == 0) {
+  if (!given.empty() && accepted.repeatable.count(name) == 0) {
     throw UsageError("option --" + name + " given twice");
   }
   given.push_back(value);

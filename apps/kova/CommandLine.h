@@ -18,7 +18,7 @@ struct OptionSpec {
 // whose text names the offending argument.
 class CommandLine {
  public:
-  static CommandLine parse(const std::vector<std::string>& args, const OptionSpec& spec);
+  static CommandLine parse(const std::vector<std::string>& args, const OptionSpec& accepted);
 
   const std::vector<std::string>& positional() const { return positionalArgs; }
   const std::string& positional(std::size_t index) const { return positionalArgs.at(index); }
@@ -35,7 +35,7 @@ class CommandLine {
                        unsigned long minimum) const;
 
  private:
-  void take(const std::string& name, const std::string& value, const OptionSpec& spec);
+  void take(const std::string& name, const std::string& value, const OptionSpec& accepted);
 
   std::vector<std::string> positionalArgs;
   std::set<std::string> flagsGiven;

@@ -11,7 +11,7 @@ class KovaApp {
  public:
   // args are the arguments after the program's name.
   static int run(const std::vector<std::string>& args, Console& console);
-  // Every command, in the order the overview lists them.
+  // Every command, in the order the list of commands shows them.
   static const std::vector<Command>& commands();
 
  private:

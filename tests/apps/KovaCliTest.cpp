@@ -60,11 +60,11 @@ TEST(CommandLine, RefusesWhatItCannotActOnNamingTheArgument) {
 }
 
 TEST(CommandLine, NumbersAreWholeAndAtLeastTheirMinimum) {
-  const OptionSpec spec{{"window"}, {}, {}, 0, 0};
-  EXPECT_EQ(CommandLine::parse({}, spec).number("window", 1, 1), 1u);
-  EXPECT_EQ(CommandLine::parse({"--window", "12"}, spec).number("window", 1, 1), 12u);
+  const OptionSpec accepted{{"window"}, {}, {}, 0, 0};
+  EXPECT_EQ(CommandLine::parse({}, accepted).number("window", 1, 1), 1u);
+  EXPECT_EQ(CommandLine::parse({"--window", "12"}, accepted).number("window", 1, 1), 12u);
   for (const std::string bad : {"0", "-1", "1.5", "x", "12345678901"}) {
-    EXPECT_THROW_TEXT(CommandLine::parse({"--window", bad}, spec).number("window", 1, 1),
+    EXPECT_THROW_TEXT(CommandLine::parse({"--window", bad}, accepted).number("window", 1, 1),
                       UsageError,
                       "option --window: \"" + bad + "\" is not a whole number of at least 1");
   }

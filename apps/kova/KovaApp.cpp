@@ -5,6 +5,7 @@
 
 #include "CheckCommand.h"
 #include "DemoCommand.h"
+#include "ErrorText.h"
 #include "ExitStatus.h"
 #include "ExportCommand.h"
 #include "GenerateCommand.h"
@@ -21,12 +22,6 @@ namespace {
 bool asksForHelp(const std::vector<std::string>& args) {
   return std::any_of(args.begin(), args.end(),
                      [](const std::string& arg) { return arg == "--help" || arg == "-h"; });
-}
-
-// Messages of the library may span lines; the program reports in one.
-std::string oneLine(std::string text) {
-  std::replace(text.begin(), text.end(), '\n', ' ');
-  return text;
 }
 
 }  // namespace
@@ -66,10 +61,9 @@ int KovaApp::runCommand(const Command& command, const std::vector<std::string>& 
   try {
     return command.run(CommandLine::parse(args, command.options), console);
   } catch (const UsageError& error) {
-    console.err << prefix << oneLine(error.what()) << "; try 'kova " << command.name
-                << " --help'\n";
+    console.err << prefix << ErrorText::of(error) << "; try 'kova " << command.name << " --help'\n";
   } catch (const std::exception& error) {
-    console.err << prefix << oneLine(error.what()) << '\n';
+    console.err << prefix << ErrorText::of(error) << '\n';
   } catch (...) {
     console.err << prefix << "unexpected failure\n";
   }

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "ErrorText.h"
 #include "core/ConfigurationHeader.h"
 #include "core/Scenario.h"
 #include "core/ScenarioManager.h"
@@ -35,7 +36,7 @@ OpenProject::OpenProject(const std::filesystem::path& path, const Progress& prog
     all = LoadProject::load(path.string(), progress);
   } catch (const std::exception& error) {
     closeAll();
-    throw std::runtime_error(path.string() + ": " + error.what());
+    throw std::runtime_error(path.string() + ": " + ErrorText::of(error));
   }
   for (unsigned int i = 0; i < all.size(); ++i)
     ScenarioManager::getInstance().addScenery(i, all[i]);

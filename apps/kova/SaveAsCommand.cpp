@@ -1,9 +1,11 @@
 #include "SaveAsCommand.h"
 
 #include "ExitStatus.h"
+#include "Interrupt.h"
 #include "NewProjectTarget.h"
 #include "OpenProject.h"
 #include "ProgressReporter.h"
+#include "project/database/LoadProject.h"
 #include "project/database/SaveProject.h"
 
 Command SaveAsCommand::describe() {
@@ -11,7 +13,7 @@ Command SaveAsCommand::describe() {
           "kova save-as P.sjson Q.sjson [--quiet]",
           "copy a project under another name",
           "Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
-          "Q must not exist yet.\n",
+          "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n",
           {{}, {}, {"quiet"}, 2, 2},
           run};
 }
@@ -20,12 +22,20 @@ int SaveAsCommand::run(const CommandLine& line, Console& console) {
   const std::filesystem::path target(line.positional(1));
   NewProjectTarget::require(target);
   ProgressReporter progress(console, line.has("quiet"));
+  Interrupt::Guard interruptible;
   OpenProject project(line.positional(0),
                       progress.callback("opening", ProgressReporter::Form::steps));
   if (!SaveProject::saveAs(target.string(),
                            progress.callback("saving", ProgressReporter::Form::steps))) {
     progress.finish();
-    throw std::runtime_error(target.string() + ": could not be written");
+    // The target did not exist before: what the failed save left of it goes.
+    std::error_code ignored;
+    std::filesystem::remove(target, ignored);
+    std::filesystem::remove(LoadProject::databasePath(target.string()), ignored);
+    if (!Interrupt::requested())
+      throw std::runtime_error(target.string() + ": could not be written");
+    console.out << "save-as cancelled; " << line.positional(0) << " is as it was\n";
+    return exitCancelled;
   }
   progress.finish();
   console.out << "saved as " << target.string() << '\n';

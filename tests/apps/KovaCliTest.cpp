@@ -230,6 +230,12 @@ TEST_F(KovaProject, ABadProjectOrScenarioIsNamedInOneLine) {
   EXPECT_EQ(malformed.err.rfind("kova info: " + broken + ": ", 0), 0u) << malformed.err;
   EXPECT_EQ(linesOf(malformed.err), 1u);
 
+  writeFile(project + ".sqlite", std::string(4096, 'x'));
+  EXPECT_EQ(kova({"info", project}).err,
+            "kova info: " + project +
+                ": Ocorreu algum erro na operação do banco de dados do projeto. (SQLite: file is "
+                "not a database)\n");
+
   const auto folderGiven = kova({"info", folder.file("")});
   EXPECT_EQ(folderGiven.err, "kova info: " + folder.file("") + ": not a project file\n");
 }

@@ -34,12 +34,15 @@ class DatabaseException : public std::runtime_error {
 
   // The primary SQLite result code behind the failure, 0 when unknown.
   int getSQLiteCode() const { return sqliteCode; }
+  // SQLite's own description of the failure, for a report; empty when there was none.
+  const std::string& getDetail() const { return detail; }
   bool isLocked() const;
 
  private:
-  DatabaseException(const std::string& text, int sqliteCode);
+  DatabaseException(const std::string& text, int sqliteCode, std::string detail);
   // Throws the DatabaseException of error when it is an SQLite failure; returns otherwise.
   static void rethrowIfSQLite(const std::exception& error);
 
   int sqliteCode;
+  std::string detail;
 };

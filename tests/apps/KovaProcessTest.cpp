@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -22,12 +23,18 @@ namespace {
 // The kova program run as its own process: its exit status and what it wrote.
 class Process {
  public:
-  // Starts kova with args; with interruptOnProgress, sends SIGINT once it reports progress.
-  Process(const std::vector<std::string>& args, bool interruptOnProgress) {
+  // Starts kova with args; with interruptOnProgress, sends SIGINT once it reports progress. As
+  // the super-user, withoutRights runs it as the user nobody, to whom permissions apply.
+  Process(const std::vector<std::string>& args, bool interruptOnProgress,
+          bool withoutRights = false) {
     int out[2], err[2];
     if (pipe(out) != 0 || pipe(err) != 0) throw std::runtime_error("pipe");
     pid = fork();
     if (pid == 0) {
+      constexpr uid_t kNobody = 65534;
+      if (withoutRights && geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
+        _exit(126);
+      }
       dup2(out[1], STDOUT_FILENO);
       dup2(err[1], STDERR_FILENO);
       std::vector<char*> argv{const_cast<char*>(KOVA_BINARY)};
@@ -120,4 +127,12 @@ TEST(KovaProcess, FileErrorsEndWithStatusTwoAndOneLine) {
   EXPECT_EQ(missing.status, 2);
   EXPECT_EQ(missing.errText, "kova info: /nonexistent/p.sjson: no such project file\n");
   EXPECT_FALSE(std::ifstream("/nonexistent/p.sjson.sqlite").good());
+
+  TemporaryFolder folder("kova_process_");
+  const std::string locked = folder.file("fechado.sjson");
+  writeFile(locked, "{}");
+  std::filesystem::permissions(locked, std::filesystem::perms::none);
+  const Process unreadable({"info", locked}, false, true);
+  EXPECT_EQ(unreadable.status, 2);
+  EXPECT_EQ(unreadable.errText, "kova info: " + locked + ": cannot be read\n");
 }

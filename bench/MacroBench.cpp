@@ -20,10 +20,10 @@
 #include <vector>
 
 #include "GeneratedProject.h"
-#include "OpenProject.h"
 #include "core/ScenarioManager.h"
 #include "operation/PriorityOperation.h"
 #include "project/database/LoadProject.h"
+#include "project/database/ProjectFunctions.h"
 #include "project/database/SQLStorage.h"
 #include "project/database/SaveProject.h"
 
@@ -97,7 +97,7 @@ double runAndSaveResults(const std::shared_ptr<Scenario>& scenario, const std::s
 }
 
 double loadWithResults(const std::string& path) {
-  OpenProject::closeAll();
+  ProjectFunctions::closeProject();
   std::vector<std::shared_ptr<Scenario>> loaded;
   const double seconds = secondsOf([&] { loaded = LoadProject::load(path, nullptr); });
   if (loaded.size() != 1 || !loaded.front()->hasResults()) {
@@ -157,7 +157,7 @@ Measure measure(const Case& one, unsigned int periods, const std::filesystem::pa
       result.seconds = runAndSaveResults(scenario, projectPath(one, folder));
     }
   }
-  OpenProject::closeAll();
+  ProjectFunctions::closeProject();
   result.ok = true;
   return result;
 }

@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "CsvTable.h"
-#include "OpenProject.h"
+#include "NewProjectTarget.h"
 #include "ScenarioFindings.h"
 #include "common/PeriodWalker.h"
 #include "core/CoreServiceManager.h"
@@ -16,11 +16,9 @@
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/RuleScenario.h"
-#include "core/ScenarioManager.h"
 #include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
 #include "operation/ExecutionMethodFactoryByType.h"
-#include "project/database/SaveProject.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
@@ -430,11 +428,7 @@ std::vector<std::shared_ptr<Scenario>> DemoProject::makeScenarios(
 
 void DemoProject::build(const std::filesystem::path& dataFolder, unsigned int lastYear,
                         const std::filesystem::path& path, const Progress& progress) {
-  const auto scenarios = makeScenarios(dataFolder, lastYear);
-  OpenProject::closeAll();
-  for (unsigned int i = 0; i < scenarios.size(); ++i)
-    ScenarioManager::getInstance().addScenery(i, scenarios[i]);
-  const bool saved = SaveProject::saveAs(path.string(), progress);
-  OpenProject::closeAll();
-  if (!saved) throw std::runtime_error(path.string() + ": the demo project was not saved");
+  if (!NewProjectTarget::save(makeScenarios(dataFolder, lastYear), path, progress)) {
+    throw std::runtime_error(path.string() + ": the demo project was not saved");
+  }
 }

@@ -7,12 +7,8 @@
 #include "ExitStatus.h"
 #include "Interrupt.h"
 #include "NewProjectTarget.h"
-#include "OpenProject.h"
 #include "ProgressReporter.h"
 #include "UsageError.h"
-#include "core/ScenarioManager.h"
-#include "project/database/LoadProject.h"
-#include "project/database/SaveProject.h"
 
 namespace {
 
@@ -26,41 +22,20 @@ const std::map<std::string, GeneratedMode>& modes() {
   return names;
 }
 
-void removeProject(const std::filesystem::path& target) {
-  std::error_code ignored;
-  std::filesystem::remove(target, ignored);
-  std::filesystem::remove(LoadProject::databasePath(target.string()), ignored);
-}
-
-// The generated project is the only open one while it is saved, and nothing of it stays open
-// after, whatever happens.
-class SoleProject {
- public:
-  SoleProject() { OpenProject::closeAll(); }
-  ~SoleProject() { OpenProject::closeAll(); }
-  SoleProject(const SoleProject&) = delete;
-  SoleProject& operator=(const SoleProject&) = delete;
-};
-
 // Writes the project file and its database; false when the saving was cancelled or the file
-// could not be written. On any failure removes what was begun, since neither file existed
-// before.
+// could not be written, nothing left behind then.
 bool save(const std::filesystem::path& target, const GeneratedProjectOptions& options,
           ProgressReporter& progress) {
-  bool written = false;
   try {
-    SoleProject sole;
-    ScenarioManager::getInstance().addScenery(0, GeneratedProject::make(options));
-    written = SaveProject::saveAs(target.string(),
-                                  progress.callback("saving", ProgressReporter::Form::steps));
+    const bool written =
+        NewProjectTarget::save({GeneratedProject::make(options)}, target,
+                               progress.callback("saving", ProgressReporter::Form::steps));
+    progress.finish();
+    return written;
   } catch (...) {
     progress.finish();
-    removeProject(target);
     throw;
   }
-  progress.finish();
-  if (!written) removeProject(target);
-  return written;
 }
 
 }  // namespace

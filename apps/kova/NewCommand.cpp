@@ -4,7 +4,6 @@
 
 #include "ExitStatus.h"
 #include "NewProjectTarget.h"
-#include "OpenProject.h"
 #include "project/database/ProjectFunctions.h"
 
 Command NewCommand::describe() {
@@ -20,9 +19,9 @@ Command NewCommand::describe() {
 int NewCommand::run(const CommandLine& line, Console& console) {
   const std::filesystem::path path(line.positional(0));
   NewProjectTarget::require(path);
-  OpenProject::closeAll();
+  ProjectFunctions::closeProject();
   const bool written = ProjectFunctions::createBlankPriorityProject(path.string());
-  OpenProject::closeAll();
+  ProjectFunctions::closeProject();
   if (!written) throw std::runtime_error(path.string() + ": could not be written");
   console.out << "new project written to " << path.string() << '\n';
   return exitOk;

@@ -1,9 +1,30 @@
 #include "NewProjectTarget.h"
 
 #include <stdexcept>
-#include <vector>
 
+#include "core/ScenarioManager.h"
 #include "project/database/LoadProject.h"
+#include "project/database/ProjectFunctions.h"
+#include "project/database/SaveProject.h"
+
+namespace {
+
+// The scenarios are the only open project while they are saved, and nothing of it stays open
+// after, whatever happens.
+class SoleProject {
+ public:
+  explicit SoleProject(const std::vector<std::shared_ptr<Scenario>>& scenarios) {
+    ProjectFunctions::closeProject();
+    for (unsigned int i = 0; i < scenarios.size(); ++i) {
+      ScenarioManager::getInstance().addScenery(i, scenarios[i]);
+    }
+  }
+  ~SoleProject() { ProjectFunctions::closeProject(); }
+  SoleProject(const SoleProject&) = delete;
+  SoleProject& operator=(const SoleProject&) = delete;
+};
+
+}  // namespace
 
 void NewProjectTarget::require(const std::filesystem::path& path) {
   std::error_code error;
@@ -17,4 +38,24 @@ void NewProjectTarget::require(const std::filesystem::path& path) {
   if (!std::filesystem::is_directory(folder, error)) {
     throw std::runtime_error(folder.string() + ": no such folder");
   }
+}
+
+bool NewProjectTarget::save(const std::vector<std::shared_ptr<Scenario>>& scenarios,
+                            const std::filesystem::path& path, const Progress& progress) {
+  bool written = false;
+  try {
+    SoleProject sole(scenarios);
+    written = SaveProject::saveAs(path.string(), progress);
+  } catch (...) {
+    discard(path);
+    throw;
+  }
+  if (!written) discard(path);
+  return written;
+}
+
+void NewProjectTarget::discard(const std::filesystem::path& path) {
+  std::error_code ignored;
+  std::filesystem::remove(path, ignored);
+  std::filesystem::remove(LoadProject::databasePath(path.string()), ignored);
 }

@@ -4,12 +4,12 @@
 #include <stdexcept>
 
 #include "ErrorText.h"
-#include "core/ConfigurationHeader.h"
 #include "core/Scenario.h"
 #include "core/ScenarioManager.h"
 #include "project/database/DatabaseProjectLoader.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/LoadProject.h"
+#include "project/database/ProjectFunctions.h"
 #include "project/database/SQLStorage.h"
 
 namespace {
@@ -31,24 +31,18 @@ void requireReadableFile(const std::filesystem::path& path) {
 
 OpenProject::OpenProject(const std::filesystem::path& path, const Progress& progress) : file(path) {
   requireReadableFile(path);
-  closeAll();
+  ProjectFunctions::closeProject();
   try {
     all = LoadProject::load(path.string(), progress);
   } catch (const std::exception& error) {
-    closeAll();
+    ProjectFunctions::closeProject();
     throw std::runtime_error(path.string() + ": " + ErrorText::of(error));
   }
   for (unsigned int i = 0; i < all.size(); ++i)
     ScenarioManager::getInstance().addScenery(i, all[i]);
 }
 
-OpenProject::~OpenProject() { closeAll(); }
-
-void OpenProject::closeAll() {
-  ScenarioManager::getInstance().clear();
-  SQLStorage::deleteInstance();
-  ConfigurationHeader::reset();
-}
+OpenProject::~OpenProject() { ProjectFunctions::closeProject(); }
 
 std::shared_ptr<Scenario> OpenProject::scenario(const std::string& name) const {
   std::string names;

@@ -33,9 +33,6 @@ class OpenProject {
   // none.
   void loadLatestResults(const std::shared_ptr<Scenario>& scenario) const;
 
-  // Ends the process-wide state of an open project (scenarios and database).
-  static void closeAll();
-
  private:
   std::filesystem::path file;
   std::vector<std::shared_ptr<Scenario>> all;

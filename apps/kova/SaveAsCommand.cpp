@@ -5,7 +5,6 @@
 #include "NewProjectTarget.h"
 #include "OpenProject.h"
 #include "ProgressReporter.h"
-#include "project/database/LoadProject.h"
 #include "project/database/SaveProject.h"
 
 Command SaveAsCommand::describe() {
@@ -29,9 +28,7 @@ int SaveAsCommand::run(const CommandLine& line, Console& console) {
                            progress.callback("saving", ProgressReporter::Form::steps))) {
     progress.finish();
     // The target did not exist before: what the failed save left of it goes.
-    std::error_code ignored;
-    std::filesystem::remove(target, ignored);
-    std::filesystem::remove(LoadProject::databasePath(target.string()), ignored);
+    NewProjectTarget::discard(target);
     if (!Interrupt::requested())
       throw std::runtime_error(target.string() + ": could not be written");
     console.out << "save-as cancelled; " << line.positional(0) << " is as it was\n";

@@ -10,6 +10,7 @@
 #include "GeneratedProject.h"
 #include "KovaApp.h"
 #include "OpenProject.h"
+#include "project/database/ProjectFunctions.h"
 #include "common/PeriodWalker.h"
 #include "core/ElementsFilter.h"
 #include "core/PrioritySettings.h"
@@ -109,8 +110,8 @@ std::size_t expectConservation(const Scenario& scenario) {
 
 class GeneratedProjectTest : public ::testing::Test {
  protected:
-  void SetUp() override { OpenProject::closeAll(); }
-  void TearDown() override { OpenProject::closeAll(); }
+  void SetUp() override { ProjectFunctions::closeProject(); }
+  void TearDown() override { ProjectFunctions::closeProject(); }
 
   TemporaryFolder folder{"kova_generated_"};
 };

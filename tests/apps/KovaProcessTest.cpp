@@ -10,11 +10,9 @@
 #include <vector>
 
 #include "DemoProject.h"
-#include "OpenProject.h"
+#include "NewProjectTarget.h"
 #include "core/Reservoir.h"
 #include "core/Scenario.h"
-#include "core/ScenarioManager.h"
-#include "project/database/SaveProject.h"
 #include "support/FileText.h"
 #include "support/TemporaryFolder.h"
 
@@ -79,11 +77,7 @@ void saveDemo(const std::string& path, unsigned int lastYear,
               const std::function<void(const std::vector<std::shared_ptr<Scenario>>&)>& edit) {
   const auto scenarios = DemoProject::makeScenarios(KOVA_DEMO_DATA, lastYear);
   edit(scenarios);
-  OpenProject::closeAll();
-  for (unsigned int i = 0; i < scenarios.size(); ++i)
-    ScenarioManager::getInstance().addScenery(i, scenarios[i]);
-  ASSERT_TRUE(SaveProject::saveAs(path, nullptr));
-  OpenProject::closeAll();
+  ASSERT_TRUE(NewProjectTarget::save(scenarios, path, nullptr));
 }
 
 }  // namespace

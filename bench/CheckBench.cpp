@@ -5,8 +5,8 @@
 #include "GeneratedSystem.h"
 #include "checks/SceneryCheckFactory.h"
 #include "core/ElementsFilter.h"
-#include "core/PriorityScenario.h"
 #include "core/PrioritySettings.h"
+#include "scenario/PriorityScenario.h"
 
 namespace {
 

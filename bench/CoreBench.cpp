@@ -2,8 +2,8 @@
 
 #include "common/PeriodWalker.h"
 #include "common/Serie.h"
-#include "core/Vocabulary.h"
 #include "support/NetworkBuilder.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

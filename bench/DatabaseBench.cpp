@@ -4,11 +4,11 @@
 #include <cmath>
 #include <filesystem>
 
-#include "core/ScenarioManager.h"
 #include "project/database/DatabaseProjectLoader.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/ProjectSaver.h"
 #include "project/database/SQLStorage.h"
+#include "scenario/ScenarioManager.h"
 #include "support/NetworkBuilder.h"
 
 namespace {

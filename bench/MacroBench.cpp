@@ -20,12 +20,12 @@
 #include <vector>
 
 #include "GeneratedProject.h"
-#include "core/ScenarioManager.h"
+#include "managers/ProjectFunctions.h"
 #include "operation/PriorityOperation.h"
 #include "project/database/LoadProject.h"
-#include "project/database/ProjectFunctions.h"
 #include "project/database/SQLStorage.h"
 #include "project/database/SaveProject.h"
+#include "scenario/ScenarioManager.h"
 
 namespace {
 

@@ -6,12 +6,12 @@
 #include "core/Demand.h"
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
-#include "core/PriorityScenario.h"
 #include "core/PrioritySettings.h"
 #include "core/Reservoir.h"
-#include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
 #include "operation/PriorityOperation.h"
+#include "scenario/PriorityScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -5,13 +5,13 @@
 
 #include "common/PeriodWalker.h"
 #include "core/ReservoirRuleSettings.h"
-#include "core/ScenarioManager.h"
 #include "project/JsonProjectLoader.h"
 #include "project/JsonSaveBuilder.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "rules/VolDepOneStaticReleaseRule.h"
+#include "scenario/ScenarioManager.h"
 #include "support/NetworkBuilder.h"
 
 namespace {

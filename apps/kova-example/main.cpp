@@ -13,18 +13,18 @@
 #include <string>
 #include <vector>
 
+#include "checks/SceneryCheck.h"
 #include "common/PeriodWalker.h"
 #include "common/StringUtils.h"
-#include "checks/SceneryCheck.h"
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
-#include "core/RuleScenario.h"
-#include "core/ScenarioManager.h"
-#include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
 #include "rules/ConstReleaseRule.h"
+#include "scenario/RuleScenario.h"
+#include "scenario/ScenarioManager.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

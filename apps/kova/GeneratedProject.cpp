@@ -9,13 +9,10 @@
 #include <stdexcept>
 
 #include "common/PeriodWalker.h"
-#include "core/CoreServiceManager.h"
-#include "core/PriorityScenario.h"
 #include "core/PrioritySettings.h"
 #include "core/ReservoirRuleSettings.h"
-#include "core/RuleScenario.h"
 #include "core/RuleSettings.h"
-#include "core/Vocabulary.h"
+#include "managers/CoreServiceManager.h"
 #include "operation/ExecutionContinuous.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
@@ -26,6 +23,9 @@
 #include "rules/VolDepOneStaticReleaseRule.h"
 #include "rules/VolDepTwoPeriodicReleaseRule.h"
 #include "rules/VolDepTwoStaticReleaseRule.h"
+#include "scenario/PriorityScenario.h"
+#include "scenario/RuleScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

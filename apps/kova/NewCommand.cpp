@@ -4,7 +4,7 @@
 
 #include "ExitStatus.h"
 #include "NewProjectTarget.h"
-#include "project/database/ProjectFunctions.h"
+#include "managers/ProjectFunctions.h"
 
 Command NewCommand::describe() {
   return {"new",

@@ -2,10 +2,10 @@
 
 #include <stdexcept>
 
-#include "core/ScenarioManager.h"
+#include "managers/ProjectFunctions.h"
 #include "project/database/LoadProject.h"
-#include "project/database/ProjectFunctions.h"
 #include "project/database/SaveProject.h"
+#include "scenario/ScenarioManager.h"
 
 namespace {
 

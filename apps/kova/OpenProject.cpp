@@ -5,12 +5,12 @@
 
 #include "ErrorText.h"
 #include "core/Scenario.h"
-#include "core/ScenarioManager.h"
+#include "managers/ProjectFunctions.h"
 #include "project/database/DatabaseProjectLoader.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/LoadProject.h"
-#include "project/database/ProjectFunctions.h"
 #include "project/database/SQLStorage.h"
+#include "scenario/ScenarioManager.h"
 
 namespace {
 

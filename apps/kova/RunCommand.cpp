@@ -7,8 +7,8 @@
 #include "ScenarioFindings.h"
 #include "core/KOVACoreProgressBar.h"
 #include "core/Scenario.h"
-#include "core/ScenarioManager.h"
 #include "reports/CSVWriteResults.h"
+#include "scenario/ScenarioManager.h"
 
 Command RunCommand::describe() {
   return {"run",

@@ -1,7 +1,7 @@
 #include "ScenarioFindings.h"
 
 #include "checks/SceneryCheck.h"
-#include "core/PriorityScenario.h"
+#include "scenario/PriorityScenario.h"
 
 std::size_t ScenarioFindings::checkAndPrint(const std::shared_ptr<Scenario>& scenario,
                                             std::ostream& out) {

@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "checks/DemandCheck.h"
-#include "core/EnumTypes.h"
 #include "core/PrioritySettings.h"
+#include "vocabulary/EnumTypes.h"
 
 // In a priority scenario: a demand's priority and, under the type "Padrão", those of its
 // hydrological states with their demand series. No demand or reservoir downstream may come

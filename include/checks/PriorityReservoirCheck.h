@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "checks/ReservoirCheck.h"
-#include "core/EnumTypes.h"
 #include "core/PriorityReservoirSettings.h"
+#include "vocabulary/EnumTypes.h"
 
 // In a priority scenario: the series of rain, evaporation, natural inflow and target volume, the
 // reservoir's priority, its target against its volumes, and the priority and target series of

@@ -19,6 +19,11 @@ class SceneryCheck : public CheckCompleteness {
   void check() override;
   // True when neither the scenario nor any element has a finding.
   bool isOk() const;
+  // Checks and tells whether nothing was found.
+  bool passes() {
+    check();
+    return isOk();
+  }
   std::size_t getNumErrors() const;
   // The findings of one element. Throws std::invalid_argument
   // "SceneryCheck::getElementErrors: invalid element id" for an element that was not checked.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/Date.h"
-#include "core/EnumPeriodicity.h"
+#include "vocabulary/EnumPeriodicity.h"
 
 // A span of dates, both ends included, walked in steps of its periodicity. The default interval
 // is monthly with both ends at 1 January 1400.

@@ -7,8 +7,8 @@
 
 #include "common/Date.h"
 #include "common/Interval.h"
-#include "core/Enum.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/Enum.h"
+#include "vocabulary/EnumTypes.h"
 
 // A dated series of values, stored sparsely by Julian day number. A date without an entry reads
 // as -999.0, the mark of a missing value. The interval is what the series claims to cover;

@@ -7,8 +7,8 @@
 
 #include "common/Serie.h"
 #include "common/SerieFactory.h"
-#include "core/EnumFactories.h"
 #include "core/SerieDescription.h"
+#include "vocabulary/EnumFactories.h"
 
 // The series of one element for one purpose (its inputs, or its results in one window), keyed by
 // kind. Iteration follows the order of the kind's number.

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "core/Enum.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/Enum.h"
+#include "vocabulary/EnumTypes.h"
 
 // The type of data in a column of a report table: "Int", "Double" or "String".
 class ContentTypeEnum : public Enum<ContentType> {

@@ -7,7 +7,7 @@
 #include "common/Interval.h"
 #include "common/Serie.h"
 #include "core/Container.h"
-#include "core/EnumElementType.h"
+#include "vocabulary/EnumElementType.h"
 
 // The base of every network item. An element holds one container of input series, which users
 // supply, and one container of results per window of the last run (index 0 for a continuous

@@ -3,7 +3,7 @@
 #include <set>
 #include <vector>
 
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // The groups of concrete element types. The family names "Demanda" (1) and "Trecho" (9) belong to
 // no group: they never stand for a concrete element.

@@ -3,8 +3,8 @@
 #include <memory>
 #include <vector>
 
-#include "core/Enum.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/Enum.h"
+#include "vocabulary/EnumTypes.h"
 
 class Scenario;
 

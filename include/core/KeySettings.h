@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // The pair by which settings and result writers are chosen.
 struct KeySettings {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "core/EnumLinkAddonType.h"
+#include "vocabulary/EnumLinkAddonType.h"
 
 // What a link carries beyond the plain transport of water. The base class is itself the add-on
 // "Nenhum", which adds nothing.

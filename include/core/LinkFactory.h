@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 
-#include "core/EnumLinkAddonType.h"
 #include "core/Link.h"
 #include "core/LinkAddonFactory.h"
 #include "core/Node.h"
+#include "vocabulary/EnumLinkAddonType.h"
 
 // Makes a link of class T (NaturalLink or ArtificialLink) from upstream to downstream with the
 // add-on of the given type, and registers it with both nodes.

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "common/Serie.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // Chooses which result series of a link are shown, by its add-on: only pumping produces
 // "Custo de bombeamento". Throws std::invalid_argument

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "core/Enum.h"
-#include "core/EnumElementType.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/Enum.h"
+#include "vocabulary/EnumElementType.h"
+#include "vocabulary/EnumTypes.h"
 
 class Scenario;
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // One field of an element as an editor shows it and as scenarios copy it between each other.
 struct PropertiesStruct {

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "core/ReleaseRule.h"
 #include "core/RuleSettings.h"
-#include "rules/ReleaseRule.h"
 
 class Scenario;
 

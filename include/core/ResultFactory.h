@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/Container.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // Makes the result containers of an element for a run, chosen by how the scenario runs.
 class ResultFactory {

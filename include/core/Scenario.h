@@ -7,19 +7,24 @@
 #include <string>
 #include <vector>
 
-#include "checks/SceneryCheck.h"
 #include "common/Interval.h"
 #include "core/Element.h"
-#include "core/Enum.h"
 #include "core/SettingsManager.h"
+#include "vocabulary/Enum.h"
 
 class ExecutionMethod;
+class HydrologicalStateConfiguration;
 class OperationSystem;
+class SceneryCheck;
 
 // One way of operating the network over an interval. A scenario owns its elements, the settings
 // of each, its execution method and the operation of its last run. run() prepares the elements,
 // validates, creates empty results, and hands an operation system to the execution method,
 // which walks the dates. Its outcome is the scenario's status.
+//
+// The check and the operation system of a run belong to floors above this one; each kind of
+// scenario makes them (makeSceneryCheck, getOperationSystem) and runs its check
+// (passesSceneryCheck), so the model itself never includes them.
 class Scenario : public std::enable_shared_from_this<Scenario> {
  public:
   using Elements = std::vector<std::shared_ptr<Element>>;
@@ -91,6 +96,11 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   unsigned int getMaxElementId() const { return maxElementId; }
   SettingsManager& getSettingsManager() { return settingsManager; }
   const SettingsManager& getSettingsManager() const { return settingsManager; }
+  // The hydrological states of a priority scenario; null for the kinds that have none.
+  virtual std::shared_ptr<HydrologicalStateConfiguration> getHydrologicalStateConfiguration()
+      const {
+    return nullptr;
+  }
   const std::map<std::string, std::vector<int>>& getLabelElementsSelects() const {
     return labelElementsSelects;
   }
@@ -135,6 +145,9 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   virtual std::shared_ptr<Scenario> copySpecific() const = 0;
   // The check of this kind of scenario, or null for a kind without one.
   virtual std::shared_ptr<SceneryCheck> makeSceneryCheck() { return nullptr; }
+  // Runs check over this scenario and tells whether it found nothing. Only called with a check,
+  // so a kind without one never needs it.
+  virtual bool passesSceneryCheck(SceneryCheck& check);
   // Gives the scenario's interval to every element's series.
   virtual void setSeriesIntervalsElements();
   // Hands the execution method's zeroContribution to whatever decides the reservoirs' releases

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // The kind and unit of one series of a container.
 struct SerieDescription {

@@ -3,9 +3,9 @@
 #include <map>
 #include <memory>
 
-#include "core/Enum.h"
-#include "core/EnumElementType.h"
 #include "core/Settings.h"
+#include "vocabulary/Enum.h"
+#include "vocabulary/EnumElementType.h"
 
 // The settings of every element of one scenario, by element id.
 class SettingsManager {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 
 // Walks the whole interval once, period by period, with the results in window 0. Progress
 // counts periods.

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "common/Interval.h"
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 
 // Makes an execution method by its type. Throws std::invalid_argument
 // "ExecutionMethodFactoryByType::make(): invalid executionType" for a type without a method.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 
 // Runs the scenario as an ensemble of windows that all start in the same month of different
 // years, each from the reservoirs' initial volumes; window i keeps its results in container i.

@@ -48,7 +48,7 @@
 #include "core/Element.h"
 #include "core/Link.h"
 #include "core/SettingsManager.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 #include "operation/HydrologicalStateCalculator.h"
 #include "operation/KLPKRepresentation.h"
 #include "operation/KLPKUtils.h"

@@ -8,15 +8,17 @@
 #include "common/Date.h"
 #include "common/Interval.h"
 #include "core/Element.h"
-#include "core/Enum.h"
 #include "core/Link.h"
 #include "core/Node.h"
 #include "core/SettingsManager.h"
+#include "vocabulary/Enum.h"
 
 // What happens at one date of a run. The execution method sets the date, window and interval
 // and calls runModel(); the concrete operation decides the flows (by rules or by priorities), and
 // postProcessing() visits the nodes upstream first, sending each node's flows into its links
 // and closing its results before its downstream neighbours read them.
+class ResultsWriter;
+
 class OperationSystem {
  public:
   using Elements = std::vector<std::shared_ptr<Element>>;
@@ -68,6 +70,8 @@ class OperationSystem {
  private:
   // The visiting order of the network as it stands at the current date.
   const Elements& levelOrder();
+  static bool anyBidirectional(const Elements& elements);
+  ResultsWriter& writerOf(ElementType type);
 
   Date date;
   unsigned int windowIndex = 0;
@@ -76,6 +80,7 @@ class OperationSystem {
   // The visiting order of each shape the network takes: keyed by the ids of the links that run
   // inverted (none for the stored network).
   std::map<std::vector<unsigned int>, Elements> nodesInLevelOrder;
+  std::map<ElementType, std::shared_ptr<ResultsWriter>> writers;
   Interval interval;
   bool zeroContribution;
   Enum<ScenarioType> scenarioType;

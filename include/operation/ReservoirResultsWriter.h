@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "core/Reservoir.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 #include "operation/ResultsWriter.h"
 
 // Closes a reservoir's period, the one place where a final volume is stored. The balance is

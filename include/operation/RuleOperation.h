@@ -1,6 +1,11 @@
 #pragma once
 
+#include <map>
+#include <memory>
+
 #include "operation/OperationSystem.h"
+
+class RuleReleaseDefaultAllocation;
 
 // One period of a rule simulation: each reservoir releases what its rule asks, within what it
 // holds, and every node shares its water among its outgoing links by its allocation matrix.
@@ -22,4 +27,9 @@ class RuleOperation : public OperationSystem {
   void configureRuleReservoirs();
   // Each enabled demand's target for the date ("Demanda meta") is its input demand.
   void writeRuleSeries();
+
+ private:
+  RuleReleaseDefaultAllocation& allocatorOf(ElementType type);
+
+  std::map<ElementType, std::shared_ptr<RuleReleaseDefaultAllocation>> allocators;
 };

@@ -10,7 +10,7 @@
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/SettingsManager.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 
 // How much of the water passing through a node goes into one of its outgoing links in a rule
 // simulation. The node's allocation matrix lists, for a set of total flows (its lines), the flow
@@ -37,6 +37,14 @@ class RuleReleaseDefaultAllocation {
 
   // The share of linkId when x (m³/s) passes through nodeId. Throws std::out_of_range when the
   // matrix lacks either id.
+  // Serves another step of the same run: the window's interval (of the same periodicity), the
+  // date and the window's index.
+  void setStep(const Interval& value, const Date& stepDate, unsigned int stepWindowIndex) {
+    interval = value;
+    date = stepDate;
+    windowIndex = stepWindowIndex;
+  }
+
   static double GetInterpolationAllocationMatrix(const AllocationMatrix& matrix, double x,
                                                  unsigned int linkId, unsigned int nodeId);
 

@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "common/Interval.h"
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 
 // Reads an execution method object: the method is made for its type over the scenario's interval,
 // then takes the common part (every key optional, the nested object too: what is absent keeps the

@@ -3,7 +3,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 
 class Scenario;
 

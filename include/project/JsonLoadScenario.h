@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "common/Interval.h"
+#include "core/ExecutionMethod.h"
 #include "core/Scenario.h"
-#include "operation/ExecutionMethod.h"
 #include "project/JsonLoadNode.h"
 
 // Reads a scenario object into a new scenario: its interval and execution method, name and ids,

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 #include "project/JsonSaveBuilder.h"
 
 // Writes an execution method object. The common part stands under a key of its own:

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 
 // Writes a release rule object. A rule without parameters ("Nenhuma regra de liberação") is
 // written {} by this class; each other rule has a writer deriving from it. Simulation rules spell

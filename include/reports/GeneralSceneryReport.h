@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "core/EnumTypes.h"
 #include "core/Scenario.h"
+#include "vocabulary/EnumTypes.h"
 
 // The general report of a scenario: a text file of one line per item, "label: value", about the
 // enabled elements. Counts of reservoirs, junctions, each kind of demand, drains, demands (the

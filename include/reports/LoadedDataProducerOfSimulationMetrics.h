@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "core/Element.h"
-#include "core/EnumTypes.h"
 #include "core/Scenario.h"
 #include "reports/LoadedData.h"
 #include "reports/SimulationMetricsEnum.h"
+#include "vocabulary/EnumTypes.h"
 
 // Builds the table in which users compare elements by simulation metrics.
 class LoadedDataProducerOfSimulationMetrics {

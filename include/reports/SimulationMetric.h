@@ -9,7 +9,7 @@
 #include "common/Interval.h"
 #include "core/Element.h"
 #include "core/Scenario.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 #include "reports/CellData.h"
 #include "reports/SimulationMetricsEnum.h"
 

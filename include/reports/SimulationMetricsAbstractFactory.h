@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "core/EnumTypes.h"
 #include "reports/SimulationMetricsFactory.h"
+#include "vocabulary/EnumTypes.h"
 
 // Gives the metric factory of a category of elements: demands or reservoirs.
 class SimulationMetricsAbstractFactory {

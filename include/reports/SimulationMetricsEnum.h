@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/Enum.h"
+#include "vocabulary/Enum.h"
 
 // The kinds of simulation metric: ten on demands (0..9) and twelve on reservoirs (10..21). The
 // display name of a kind is the name of its metric. "Frequencia abaixo do volume meta" is

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "rules/ReleaseRule.h"
+#include <memory>
+
+#include "core/ReleaseRule.h"
 
 // The same release on every date.
 class ConstReleaseRule : public ReleaseRule {
@@ -16,6 +18,11 @@ class ConstReleaseRule : public ReleaseRule {
   // Sets the release, m³/s. Throws std::invalid_argument "ConstReleaseRule::setRelease(): the
   // release is a negative value" below 0.
   void setRelease(double value);
+
+ protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<ConstReleaseRule>();
+  }
 
  private:
   double release = 0.0;  // m³/s

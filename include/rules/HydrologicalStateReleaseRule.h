@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 
 class Element;
 
@@ -63,6 +63,11 @@ class HydrologicalStateReleaseRule : public ReleaseRule {
   // above the system's minimum volume (by more than 1e-06); entry i >= 1 the share of dates in
   // zone i or above.
   std::vector<double> getGuaranteeResults() const;
+
+ protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<HydrologicalStateReleaseRule>();
+  }
 
  private:
   // The zone of state (hm³) in a system of capacity w (hm³).

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
+
 #include <vector>
 
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 
 // One release per calendar month, the same every year.
 class PeriodicReleaseRule : public ReleaseRule {
@@ -23,6 +25,11 @@ class PeriodicReleaseRule : public ReleaseRule {
   // Sets the twelve releases, January first, m³/s. Throws std::invalid_argument
   // "PeriodicReleaseRule::setRelease(): invalid size of vector releases" for another size.
   void setRelease(const std::vector<double>& values);
+
+ protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<PeriodicReleaseRule>();
+  }
 
  private:
   std::vector<double> releases = std::vector<double>(12, 0.0);  // m³/s, January first

@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "core/EnumTypes.h"
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
+#include "vocabulary/EnumTypes.h"
 
 // Makes release rules in their default state, by type or by display name (the names of
 // Vocabulary::releaseRuleTypes()). Both throw std::invalid_argument

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "common/Serie.h"
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 
 // Releases read from a dated series: the value of the series at each date.
 class SerieReleaseRule : public ReleaseRule {
@@ -22,6 +22,11 @@ class SerieReleaseRule : public ReleaseRule {
   // Shares serie as the series of releases, m³/s. Throws std::invalid_argument
   // "SerieReleaseRule::setReleaseSerie(): the serie is nullptr" for none.
   void setReleaseSerie(const std::shared_ptr<Serie>& serie);
+
+ protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<SerieReleaseRule>();
+  }
 
  private:
   std::shared_ptr<Serie> releaseSerie;

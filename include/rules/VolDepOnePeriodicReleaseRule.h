@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <vector>
 
 #include "rules/VolDepOneReleaseRule.h"
@@ -13,6 +15,9 @@ class VolDepOnePeriodicReleaseRule : public VolDepOneReleaseRule {
   void setVectorOfVolDepOneReleaseStruct(const std::vector<VolDepOneReleaseStruct>& rows) override;
 
  protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<VolDepOnePeriodicReleaseRule>();
+  }
   // The row's release of the month of date, m³/s.
   double doGetRelease(const Date& date, unsigned int row) const override;
 };

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 #include "rules/VolDepOneReleaseStruct.h"
 
 class Element;

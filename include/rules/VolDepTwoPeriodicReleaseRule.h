@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "rules/VolDepTwoReleaseRule.h"
 
 // A two-reservoir step table with twelve month slots, January first.
@@ -11,6 +13,9 @@ class VolDepTwoPeriodicReleaseRule : public VolDepTwoReleaseRule {
   void setVolDepTwoReleaseStruct(const VolDepTwoReleaseStruct& table) override;
 
  protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<VolDepTwoPeriodicReleaseRule>();
+  }
   // releases[month of date - 1][i][j], m³/s.
   double doGetRelease(const Date& date, unsigned int i, unsigned int j) const override;
 };

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "rules/ReleaseRule.h"
+#include "core/ReleaseRule.h"
 #include "rules/VolDepTwoReleaseStruct.h"
 
 class Element;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "rules/VolDepTwoReleaseRule.h"
 
 // A two-reservoir step table with one month slot, whatever the month.
@@ -12,6 +14,9 @@ class VolDepTwoStaticReleaseRule : public VolDepTwoReleaseRule {
   void setVolDepTwoReleaseStruct(const VolDepTwoReleaseStruct& table) override;
 
  protected:
+  std::shared_ptr<ReleaseRule> makeBlank() const override {
+    return std::make_shared<VolDepTwoStaticReleaseRule>();
+  }
   // releases[0][i][j], m³/s.
   double doGetRelease(const Date& date, unsigned int i, unsigned int j) const override;
 };

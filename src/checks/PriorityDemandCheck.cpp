@@ -3,8 +3,9 @@
 #include <algorithm>
 
 #include "core/ElementSets.h"
+#include "core/HydrologicalStateConfiguration.h"
 #include "core/NetworkUtils.h"
-#include "core/PriorityScenario.h"
+#include "core/Scenario.h"
 
 namespace {
 
@@ -95,7 +96,7 @@ std::shared_ptr<PrioritySettings> PriorityDemandCheck::settingsOf(
 }
 
 HydrologicalStateType PriorityDemandCheck::stateType() const {
-  return std::static_pointer_cast<PriorityScenario>(getScenario())
+  return getScenario()
       ->getHydrologicalStateConfiguration()
       ->getCurrentHydrologicalStateType()
       .getType();

@@ -2,7 +2,8 @@
 
 #include "common/NumericalUtils.h"
 #include "common/PeriodWalker.h"
-#include "core/PriorityScenario.h"
+#include "core/HydrologicalStateConfiguration.h"
+#include "core/Scenario.h"
 
 namespace {
 
@@ -99,7 +100,7 @@ std::shared_ptr<PriorityReservoirSettings> PriorityReservoirCheck::settings() co
 }
 
 HydrologicalStateType PriorityReservoirCheck::stateType() const {
-  return std::static_pointer_cast<PriorityScenario>(getScenario())
+  return getScenario()
       ->getHydrologicalStateConfiguration()
       ->getCurrentHydrologicalStateType()
       .getType();

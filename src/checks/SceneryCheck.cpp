@@ -3,8 +3,8 @@
 #include <stdexcept>
 
 #include "checks/ElementCheckFactory.h"
+#include "core/ExecutionMethod.h"
 #include "core/Scenario.h"
-#include "operation/ExecutionMethod.h"
 
 void SceneryCheck::check() {
   clean();

@@ -1,7 +1,7 @@
 #include "core/Basin.h"
 
 #include "core/SeriesContainers.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Basin::Basin(const Point2D& position)
     : Node(Vocabulary::of(ElementType::basin), std::make_shared<BasinSeriesInput>(), position) {}

@@ -1,7 +1,7 @@
 #include "core/Demand.h"
 
 #include "core/SeriesContainers.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Demand::Demand(ElementType type, const Point2D& position)
     : Node(Vocabulary::of(type), std::make_shared<DemandSeriesInput>(), position) {}

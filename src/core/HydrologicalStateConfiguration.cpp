@@ -7,7 +7,7 @@
 #include "core/ElementsFilter.h"
 #include "core/PrioritySettings.h"
 #include "core/Scenario.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "core/Junction.h"
 
 #include "core/SeriesContainers.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Junction::Junction(const Point2D& position)
     : Node(Vocabulary::of(ElementType::junction), std::make_shared<JunctionSeriesInput>(),

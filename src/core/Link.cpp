@@ -9,7 +9,7 @@
 #include "core/LinkVectorOfOutputSeriesFactory.h"
 #include "core/Node.h"
 #include "core/SeriesContainers.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Link::Link(ElementType type)
     : Element(Vocabulary::of(type), std::make_shared<LinkSeriesInput>()),

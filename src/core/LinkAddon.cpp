@@ -1,6 +1,6 @@
 #include "core/LinkAddon.h"
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 LinkAddon::LinkAddon() : LinkAddon(LinkAddonType::none) {}
 

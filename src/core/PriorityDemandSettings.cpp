@@ -1,7 +1,7 @@
 #include "core/PriorityDemandSettings.h"
 
 #include "common/SerieFactory.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 unsigned int PriorityDemandSettings::getDefaultPriority() const { return 1; }
 

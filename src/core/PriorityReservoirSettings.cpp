@@ -4,7 +4,7 @@
 #include <string>
 
 #include "common/SerieFactory.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

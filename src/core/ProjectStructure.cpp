@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "core/EnumFactories.h"
 #include "core/Scenario.h"
+#include "vocabulary/EnumFactories.h"
 
 namespace {
 

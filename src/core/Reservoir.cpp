@@ -6,7 +6,7 @@
 #include "common/regression/RegressionTechniqueFactory.h"
 #include "core/Link.h"
 #include "core/SeriesContainers.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 ReservoirInfo::ReservoirInfo()
     : regressionTech(RegressionTechniqueFactory::make(RegressionType::cubicSpline)) {}

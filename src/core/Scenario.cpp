@@ -4,15 +4,14 @@
 
 #include "core/ElementSets.h"
 #include "core/ElementsFilter.h"
+#include "core/ExecutionMethod.h"
+#include "core/IntervalWindowed.h"
 #include "core/Link.h"
 #include "core/NetworkUtils.h"
 #include "core/Node.h"
+#include "core/ReleaseRule.h"
 #include "core/ReservoirRuleSettings.h"
-#include "core/Vocabulary.h"
-#include "operation/ExecutionMethod.h"
-#include "operation/IntervalWindowed.h"
-#include "operation/PumpingManager.h"
-#include "operation/OperationSystem.h"
+#include "vocabulary/Vocabulary.h"
 
 Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsigned int id,
                    const Interval& interval, const std::string& name)
@@ -20,7 +19,7 @@ Scenario::Scenario(const std::shared_ptr<ExecutionMethod>& executionMethod, unsi
       id(id),
       name(name),
       executionMethod(executionMethod),
-      pumpingCosts(PumpingManager::getEnumDemandTypes().size(), 0.0),
+      pumpingCosts(ElementSets::consumerDemands().size(), 0.0),
       sceneryStatus(Vocabulary::of(SceneryStatus::configurationError)) {}
 
 void Scenario::addElement(const std::shared_ptr<Element>& element, bool rename) {
@@ -76,7 +75,6 @@ bool Scenario::run(const Progress& progress) {
   clearResultSeries();
   createResults();
   currentOperationSystem = getOperationSystem();
-  currentOperationSystem->setHasBidirectionalLink(hasBidirectionalLink());
   bool finished = false;
   try {
     finished = executionMethod->run(interval, currentOperationSystem, progress);
@@ -120,8 +118,11 @@ void Scenario::clearAllResults() { clearResultSeries(); }
 int Scenario::executeSceneryCheck() {
   if (!sceneryCheck) sceneryCheck = makeSceneryCheck();
   if (!sceneryCheck) return 1;
-  sceneryCheck->check();
-  return sceneryCheck->isOk() ? 0 : 2;
+  return passesSceneryCheck(*sceneryCheck) ? 0 : 2;
+}
+
+bool Scenario::passesSceneryCheck(SceneryCheck&) {
+  throw std::logic_error("Scenario::passesSceneryCheck(): this kind of scenario has no check");
 }
 
 std::shared_ptr<Scenario> Scenario::copy() const {

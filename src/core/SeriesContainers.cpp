@@ -1,6 +1,6 @@
 #include "core/SeriesContainers.h"
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

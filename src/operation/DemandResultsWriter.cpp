@@ -6,7 +6,7 @@
 #include "core/ConfigurationHeader.h"
 #include "core/Demand.h"
 #include "core/NetworkUtils.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 
 void DemandResultsWriter::write(const Date& date, unsigned int windowIndex,
                                 const std::shared_ptr<Element>& element, const Interval& interval,

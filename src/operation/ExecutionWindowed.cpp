@@ -1,9 +1,9 @@
 #include "operation/ExecutionWindowed.h"
 
 #include "common/PeriodWalker.h"
+#include "core/IntervalWindowed.h"
 #include "core/KOVACoreProgressBar.h"
 #include "core/ResultFactory.h"
-#include "operation/IntervalWindowed.h"
 #include "operation/OperationSystem.h"
 
 ExecutionWindowed::ExecutionWindowed() : ExecutionMethod(ExecutionType::windowed) {}

@@ -2,9 +2,9 @@
 
 #include "common/NumericalUtils.h"
 #include "core/Reservoir.h"
+#include "core/ReservoirOperationUtils.h"
 #include "core/Scenario.h"
-#include "operation/HydrologicalBalance.h"
-#include "operation/ReservoirOperationUtils.h"
+#include "hydrology/HydrologicalBalance.h"
 
 namespace {
 

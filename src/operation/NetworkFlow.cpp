@@ -13,10 +13,10 @@
 #include "core/ElementsFilter.h"
 #include "core/PrioritySettings.h"
 #include "core/Reservoir.h"
+#include "core/ReservoirOperationUtils.h"
 #include "core/Scenario.h"
 #include "operation/PriorityCalculator.h"
 #include "operation/ReservoirHydrologicalStateCalculator.h"
-#include "operation/ReservoirOperationUtils.h"
 
 namespace {
 

@@ -1,6 +1,8 @@
 #include "operation/OperationSystem.h"
 
+#include <algorithm>
 
+#include "core/ElementsFilter.h"
 #include "core/NetworkUtils.h"
 #include "operation/ResultsWriterFactory.h"
 
@@ -11,15 +13,28 @@ OperationSystem::OperationSystem(const SettingsManager& settingsManager, const E
       elements(elements),
       interval(interval),
       zeroContribution(zeroContribution),
-      scenarioType(scenarioType) {}
+      scenarioType(scenarioType),
+      hasBidirectionalLink(anyBidirectional(elements)) {}
+
+bool OperationSystem::anyBidirectional(const Elements& elements) {
+  const auto links = ElementsFilter::filterByEnabledLinks(elements);
+  return std::any_of(links.begin(), links.end(),
+                     [](const auto& link) { return link->getIsBidirectional(); });
+}
 
 std::vector<std::shared_ptr<Link>> OperationSystem::allocation(const std::shared_ptr<Node>& node) {
   return node->getEnabledDownstreamLinks();
 }
 
 void OperationSystem::updateResults(const std::shared_ptr<Element>& element) {
-  ResultsWriterFactory::make({scenarioType.getType(), element->getType()})
-      ->write(date, windowIndex, element, interval, zeroContribution);
+  writerOf(element->getType()).write(date, windowIndex, element, interval, zeroContribution);
+}
+
+ResultsWriter& OperationSystem::writerOf(ElementType type) {
+  // Writers keep nothing between calls, so one per element kind serves the whole run.
+  auto& writer = writers[type];
+  if (!writer) writer = ResultsWriterFactory::make({scenarioType.getType(), type});
+  return *writer;
 }
 
 const OperationSystem::Elements& OperationSystem::levelOrder() {

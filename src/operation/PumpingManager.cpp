@@ -8,8 +8,11 @@
 #include "core/ElementsFilter.h"
 #include "core/LinkAddonPumping.h"
 #include "core/Scenario.h"
+#include "hydrology/HydrologicalBalance.h"
 
 namespace {
+
+constexpr double kCubicMetresPerHm3 = 1000000.0;
 
 bool meets(const TransientPumpingPeriod& a, const TransientPumpingPeriod& b) {
   return a.initialValue < b.finalValue && b.initialValue < a.finalValue;
@@ -22,10 +25,12 @@ const LinkAddonPumping& pumpingOf(const Link& link) {
 }  // namespace
 
 double PumpingManager::m3sToM3(double flow, const Date& date) {
-  return date.daysInMonth() * flow * 86400.0;
+  return m3sToHM3(flow, date) * kCubicMetresPerHm3;
 }
 
-double PumpingManager::m3sToHM3(double flow, const Date& date) { return m3sToM3(flow, date) / 1e6; }
+double PumpingManager::m3sToHM3(double flow, const Date& date) {
+  return HydrologicalBalanceMonthly().hm3(date, flow);
+}
 
 const std::vector<ElementType>& PumpingManager::getEnumDemandTypes() {
   static const std::vector<ElementType> types = {ElementType::humanDemand, ElementType::animalDemand,

@@ -1,7 +1,7 @@
 #include "operation/ReservoirResultsWriter.h"
 
 #include "common/NumericalUtils.h"
-#include "operation/ReservoirOperationUtils.h"
+#include "core/ReservoirOperationUtils.h"
 
 namespace {
 

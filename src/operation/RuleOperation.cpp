@@ -9,9 +9,19 @@
 
 double RuleOperation::release(const std::shared_ptr<Link>& link) {
   const std::shared_ptr<Node> upstream = link->getUpstream();
-  const auto allocator = RuleReleaseAllocationFactory::make(upstream->getType(), getInterval(),
-                                                            getDate(), getWindowIndex());
-  return allocator->getValue(upstream, link, getSettingsManager(), getZeroContribution(), 0);
+  return allocatorOf(upstream->getType())
+      .getValue(upstream, link, getSettingsManager(), getZeroContribution(), 0);
+}
+
+RuleReleaseDefaultAllocation& RuleOperation::allocatorOf(ElementType type) {
+  // An allocator keeps only the step it serves, so one per node kind serves the whole run.
+  auto& allocator = allocators[type];
+  if (!allocator) {
+    allocator = RuleReleaseAllocationFactory::make(type, getInterval(), getDate(), getWindowIndex());
+  } else {
+    allocator->setStep(getInterval(), getDate(), getWindowIndex());
+  }
+  return *allocator;
 }
 
 double RuleOperation::spill(const std::shared_ptr<Link>& link) {

@@ -7,8 +7,8 @@
 #include "core/Junction.h"
 #include "core/Link.h"
 #include "core/LinkRuleSettings.h"
+#include "core/ReservoirOperationUtils.h"
 #include "core/RuleSettings.h"
-#include "operation/ReservoirOperationUtils.h"
 
 namespace {
 

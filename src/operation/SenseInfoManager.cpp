@@ -5,7 +5,7 @@
 
 #include "core/Node.h"
 #include "core/Reservoir.h"
-#include "operation/ReservoirOperationUtils.h"
+#include "core/ReservoirOperationUtils.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "core/ElementFactory.h"
-#include "core/Vocabulary.h"
 #include "project/JsonLoadReservoir.h"
 #include "project/JsonMakerTable.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

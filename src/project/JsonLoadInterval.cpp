@@ -2,9 +2,9 @@
 
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
 #include "project/JsonLoadDate.h"
 #include "project/JsonLoadHelper.h"
+#include "vocabulary/Vocabulary.h"
 
 Interval JsonLoadInterval::load(const nlohmann::json& object) {
   const Date begin = JsonLoadDate::load(JsonLoadHelper::findRequired(object, "begin"));

@@ -6,9 +6,9 @@
 
 #include "core/Node.h"
 #include "core/Scenario.h"
-#include "core/Vocabulary.h"
 #include "project/JsonLoadHelper.h"
 #include "project/JsonLoadLinkAddonFactory.h"
+#include "vocabulary/Vocabulary.h"
 
 using json = nlohmann::json;
 using Helper = JsonLoadHelper;

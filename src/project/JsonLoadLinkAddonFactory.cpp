@@ -2,9 +2,9 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonLoadLinkAddonPumping.h"
 #include "project/JsonMakerTable.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <stdexcept>
 #include <vector>
 
-#include "core/PriorityScenario.h"
-#include "core/Vocabulary.h"
 #include "project/JsonLoadHelper.h"
 #include "project/JsonLoadRuleScenario.h"
+#include "scenario/PriorityScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 using Helper = JsonLoadHelper;
 

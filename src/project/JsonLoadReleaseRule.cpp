@@ -4,11 +4,11 @@
 
 #include "common/SerieFactory.h"
 #include "core/Scenario.h"
-#include "core/Vocabulary.h"
 #include "project/JsonLoadHelper.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
+#include "vocabulary/Vocabulary.h"
 
 using json = nlohmann::json;
 using Helper = JsonLoadHelper;

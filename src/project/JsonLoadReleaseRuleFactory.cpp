@@ -2,11 +2,11 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonLoadHydrologicalStateReleaseRule.h"
 #include "project/JsonLoadVolDepOneReleaseRule.h"
 #include "project/JsonLoadVolDepTwoReleaseRule.h"
 #include "project/JsonMakerTable.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "core/RuleScenario.h"
 #include "project/JsonLoadHelper.h"
+#include "scenario/RuleScenario.h"
 
 void JsonLoadRuleScenario::loadPumpingConfig(const nlohmann::json& object, Scenario& scenario) {
   bool found = false;

@@ -2,10 +2,10 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonLoadPriorityScenario.h"
 #include "project/JsonLoadRuleScenario.h"
 #include "project/JsonMakerTable.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -2,12 +2,12 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonLoadSettingsPriorityDemand.h"
 #include "project/JsonLoadSettingsPriorityReservoir.h"
 #include "project/JsonLoadSettingsRule.h"
 #include "project/JsonLoadSettingsRuleReservoir.h"
 #include "project/JsonMakerTable.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 #include <stdexcept>
 
 #include "core/ConfigurationHeader.h"
-#include "core/ScenarioManager.h"
 #include "project/JsonLoadHelper.h"
 #include "project/JsonLoadProjectConfig.h"
 #include "project/JsonLoadScenarioFactory.h"
+#include "scenario/ScenarioManager.h"
 
 using json = nlohmann::json;
 

@@ -7,9 +7,9 @@
 #include "common/Serie.h"
 #include "common/StringUtils.h"
 #include "core/Scenario.h"
-#include "core/ScenarioManager.h"
 #include "project/JsonSaveProjectConfig.h"
 #include "project/JsonSaveSceneryFactory.h"
+#include "scenario/ScenarioManager.h"
 
 bool JsonSaveBuilder::save(const std::string& path) {
   std::vector<std::shared_ptr<Scenario>> scenarios;

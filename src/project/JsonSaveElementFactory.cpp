@@ -2,11 +2,11 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveLink.h"
 #include "project/JsonSaveNode.h"
 #include "project/JsonSaveReservoir.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "core/Node.h"
-#include "core/Vocabulary.h"
 #include "project/JsonSaveLinkAddonFactory.h"
+#include "vocabulary/Vocabulary.h"
 
 using B = JsonSaveBuilder;
 

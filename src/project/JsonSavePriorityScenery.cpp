@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
-#include "core/PriorityScenario.h"
 #include "project/JsonSaveRuleScenery.h"
+#include "scenario/PriorityScenario.h"
 
 using B = JsonSaveBuilder;
 

@@ -2,11 +2,11 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveHydrologicalStateReleaseRule.h"
 #include "project/JsonSaveVolDepOneReleaseRule.h"
 #include "project/JsonSaveVolDepTwoReleaseRule.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "project/JsonSaveScenario.h"
 
 #include "core/ElementsFilter.h"
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 #include "project/JsonSaveElementFactory.h"
 #include "project/JsonSaveExecutionMethodFactory.h"
 #include "project/JsonSaveInterval.h"

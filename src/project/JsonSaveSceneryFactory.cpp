@@ -2,10 +2,10 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
 #include "project/JsonSavePriorityScenery.h"
 #include "project/JsonSaveRuleScenery.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

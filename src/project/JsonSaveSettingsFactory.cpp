@@ -2,12 +2,12 @@
 
 #include <functional>
 
-#include "core/Vocabulary.h"
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveSettingsPriorityDemand.h"
 #include "project/JsonSaveSettingsPriorityReservoir.h"
 #include "project/JsonSaveSettingsRule.h"
 #include "project/JsonSaveSettingsRuleReservoir.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

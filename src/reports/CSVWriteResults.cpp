@@ -3,7 +3,7 @@
 #include <ctime>
 #include <iomanip>
 
-#include "operation/ExecutionMethod.h"
+#include "core/ExecutionMethod.h"
 #include "reports/CSVSeriesWriter.h"
 #include "reports/ReportFormat.h"
 

@@ -3,13 +3,7 @@
 #include <algorithm>
 
 #include "common/NumericalUtils.h"
-
-namespace {
-
-constexpr double kSecondsPerDay = 86400.0;
-constexpr double kCubicMetresPerHm3 = 1000000.0;
-
-}  // namespace
+#include "hydrology/HydrologicalConversion.h"
 
 bool DemandSimulationMetric::measures(const Element& element) const {
   return dynamic_cast<const Demand*>(&element) != nullptr;
@@ -42,7 +36,7 @@ double DemandSimulationMetric::volume(const std::vector<double>& flows, const Ru
 
 double DemandSimulationMetric::averageFlow(double volume, double days) {
   if (days == 0.0) return Serie::kEmptyValue;
-  return volume * kCubicMetresPerHm3 / (days * kSecondsPerDay);
+  return HydrologicalConversion::flow(volume, static_cast<unsigned int>(days));
 }
 
 double DemandSimulationMetric::daysOfWindow(const Interval& interval) {

@@ -11,7 +11,7 @@
 #include "core/ConfigurationHeader.h"
 #include "core/ElementSets.h"
 #include "core/Reservoir.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 
 namespace {
 

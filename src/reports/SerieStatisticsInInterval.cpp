@@ -5,7 +5,7 @@
 
 #include "common/NumericalUtils.h"
 #include "common/VectorStatistics.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 std::vector<double> SerieStatisticsInInterval::valuesInInterval(const std::shared_ptr<Serie>& serie,
                                                                 const Date& begin,

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Enum<ReleaseRuleType> ConstReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::constant);

@@ -6,10 +6,10 @@
 #include "common/NumericalUtils.h"
 #include "common/PeriodWalker.h"
 #include "core/Reservoir.h"
+#include "core/ReservoirOperationUtils.h"
 #include "core/Scenario.h"
-#include "core/Vocabulary.h"
-#include "operation/HydrologicalBalance.h"
-#include "operation/ReservoirOperationUtils.h"
+#include "hydrology/HydrologicalBalance.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "rules/NoneReleaseRule.h"
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Enum<ReleaseRuleType> NoneReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::none);

@@ -3,7 +3,7 @@
 #include <cassert>
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Enum<ReleaseRuleType> PeriodicReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::periodic);

@@ -3,7 +3,6 @@
 #include <map>
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
@@ -13,6 +12,7 @@
 #include "rules/VolDepOneStaticReleaseRule.h"
 #include "rules/VolDepTwoPeriodicReleaseRule.h"
 #include "rules/VolDepTwoStaticReleaseRule.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

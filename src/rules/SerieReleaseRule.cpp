@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 SerieReleaseRule::SerieReleaseRule()
     : releaseSerie(

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Enum<ReleaseRuleType> VolDepOnePeriodicReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::periodicVolumeDependence1);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Enum<ReleaseRuleType> VolDepOneStaticReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::staticVolumeDependence1);

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 Enum<ReleaseRuleType> VolDepTwoStaticReleaseRule::getType() const {
   return Vocabulary::of(ReleaseRuleType::staticVolumeDependence2);

@@ -11,9 +11,9 @@
 #include "checks/PriorityReservoirCheck.h"
 #include "checks/SceneryCheckFactory.h"
 #include "core/ElementSets.h"
-#include "core/RuleScenario.h"
 #include "core/RuleSettings.h"
 #include "operation/PriorityNetworkBuilder.h"
+#include "scenario/RuleScenario.h"
 #include "support/ExpectThrow.h"
 
 namespace {

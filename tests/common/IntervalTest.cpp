@@ -7,8 +7,8 @@
 #include "common/Calendar.h"
 #include "common/Interval.h"
 #include "common/IntervalManager.h"
-#include "core/Vocabulary.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <fstream>
 
 #include "common/Calendar.h"
-#include "common/PermanenceCurveCalculator.h"
-#include "common/SerieManager.h"
+#include "core/PermanenceCurveCalculator.h"
 #include "core/ResultFactory.h"
+#include "core/SerieManager.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
 

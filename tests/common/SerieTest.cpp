@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "common/Serie.h"
-#include "core/Vocabulary.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

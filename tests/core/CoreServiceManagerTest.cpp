@@ -3,20 +3,20 @@
 #include <memory>
 #include <vector>
 
-#include "core/CoreServiceManager.h"
 #include "core/Demand.h"
 #include "core/ElementFactory.h"
 #include "core/LinkRuleSettings.h"
 #include "core/NetworkUtils.h"
-#include "core/RuleScenario.h"
 #include "core/RuleSettings.h"
-#include "core/Vocabulary.h"
+#include "managers/CoreServiceManager.h"
 #include "operation/ExecutionContinuous.h"
 #include "project/database/DatabaseInsert.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/SQLStorage.h"
+#include "scenario/RuleScenario.h"
 #include "support/ExpectThrow.h"
 #include "support/TemporaryFolder.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

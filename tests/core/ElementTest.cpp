@@ -7,8 +7,8 @@
 #include "core/NodeFactory.h"
 #include "core/Properties.h"
 #include "core/ResultFactory.h"
-#include "core/Vocabulary.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

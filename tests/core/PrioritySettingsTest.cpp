@@ -6,8 +6,8 @@
 #include "core/PriorityDemandSettings.h"
 #include "core/PriorityReservoirSettings.h"
 #include "core/RuleSettings.h"
-#include "core/Vocabulary.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

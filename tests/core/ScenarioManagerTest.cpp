@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "core/ScenarioManager.h"
+#include "scenario/ScenarioManager.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
 

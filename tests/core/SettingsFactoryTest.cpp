@@ -14,8 +14,8 @@
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "core/SettingsFactory.h"
 #include "core/SettingsManager.h"
-#include "core/Vocabulary.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "core/LinkRuleSettings.h"
-#include "rules/ConstReleaseRule.h"
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "core/ReservoirRuleSettings.h"
 #include "core/SettingsFactory.h"
 #include "core/SettingsManager.h"
-#include "core/Vocabulary.h"
+#include "rules/ConstReleaseRule.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
+#include "vocabulary/Vocabulary.h"
 
 
 TEST(SettingsManager, StoresByIdAndCopiesDeeply) {

@@ -2,9 +2,9 @@
 
 #include "core/ContentTypeEnum.h"
 #include "core/ElementSets.h"
-#include "core/EnumFactories.h"
-#include "core/Vocabulary.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/EnumFactories.h"
+#include "vocabulary/Vocabulary.h"
 
 TEST(Vocabulary, EveryTableHasItsCountAndRoundTripsByName) {
   EXPECT_EQ(Vocabulary::elementTypes().getRows().size(), 12u);

@@ -8,10 +8,10 @@
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
 #include "core/PriorityReservoirSettings.h"
-#include "core/PriorityScenario.h"
-#include "core/Vocabulary.h"
+#include "hydrology/HydrologicalBalance.h"
 #include "operation/ExecutionContinuous.h"
-#include "operation/HydrologicalBalance.h"
+#include "scenario/PriorityScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 // Builds monthly priority scenarios in code. Reservoirs have neither rain nor evaporation, so
 // that volumes can be followed by hand; goals are given as volumes of the period (hm³).

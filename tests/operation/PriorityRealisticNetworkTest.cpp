@@ -6,8 +6,8 @@
 #include "common/PeriodWalker.h"
 #include "core/ElementSets.h"
 #include "core/ElementsFilter.h"
-#include "core/PriorityScenario.h"
 #include "core/PrioritySettings.h"
+#include "scenario/PriorityScenario.h"
 #include "support/RealisticNetwork.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include "common/PeriodWalker.h"
 #include "core/ElementsFilter.h"
-#include "operation/HydrologicalBalance.h"
+#include "hydrology/HydrologicalBalance.h"
 #include "support/RealisticNetwork.h"
 
 namespace {

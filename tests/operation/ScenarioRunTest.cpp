@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "checks/SceneryCheck.h"
 #include "common/PeriodWalker.h"
 #include "core/KOVACoreProgressBar.h"
-#include "core/ScenarioManager.h"
 #include "operation/ExecutionMethodFactoryByType.h"
 #include "operation/RuleOperation.h"
+#include "scenario/ScenarioManager.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
 

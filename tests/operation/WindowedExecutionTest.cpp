@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "core/IntervalWindowed.h"
 #include "operation/ExecutionMethodFactoryByType.h"
 #include "operation/ExecutionWindowed.h"
-#include "operation/IntervalWindowed.h"
 #include "support/ExpectThrow.h"
 #include "support/RealisticNetwork.h"
 

@@ -3,17 +3,17 @@
 #include <typeinfo>
 
 #include "core/Demand.h"
+#include "core/ExecutionMethod.h"
 #include "core/Link.h"
 #include "core/LinkAddonPumping.h"
 #include "core/PriorityDemandSettings.h"
 #include "core/PriorityPassiveSettings.h"
 #include "core/PriorityReservoirSettings.h"
-#include "core/PriorityScenario.h"
-#include "core/Vocabulary.h"
-#include "operation/ExecutionMethod.h"
 #include "project/JsonProjectLoader.h"
 #include "project/JsonSaveBuilder.h"
 #include "project/ProjectFileSupport.h"
+#include "scenario/PriorityScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 using projectfile::ProjectFileTest;
 

@@ -5,14 +5,14 @@
 #include "core/LinkRuleSettings.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
-#include "core/RuleScenario.h"
-#include "core/Vocabulary.h"
 #include "operation/ExecutionWindowed.h"
 #include "project/JsonProjectLoader.h"
 #include "project/JsonSaveBuilder.h"
 #include "project/ProjectFileSupport.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/VolDepOneStaticReleaseRule.h"
+#include "scenario/RuleScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 using projectfile::ProjectFileTest;
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "common/Serie.h"
-#include "core/Vocabulary.h"
 #include "project/JsonProjectLoader.h"
 #include "project/JsonSaveBuilder.h"
 #include "project/ProjectFileSupport.h"
+#include "vocabulary/Vocabulary.h"
 
 using JsonSaveBuilderProject = projectfile::ProjectFileTest;
 using B = JsonSaveBuilder;

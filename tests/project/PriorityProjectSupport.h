@@ -12,9 +12,9 @@
 #include "core/PriorityDemandSettings.h"
 #include "core/PriorityPassiveSettings.h"
 #include "core/PriorityReservoirSettings.h"
-#include "core/PriorityScenario.h"
-#include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
+#include "scenario/PriorityScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace projectfile {
 

@@ -4,8 +4,6 @@
 
 #include "core/ElementFactory.h"
 #include "core/LinkAddonFactory.h"
-#include "core/RuleScenario.h"
-#include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
 #include "project/JsonLoadElementFactory.h"
 #include "project/JsonLoadExecutionMethodFactory.h"
@@ -27,7 +25,9 @@
 #include "project/JsonSaveSettingsFactory.h"
 #include "rules/ReleaseRuleFactory.h"
 #include "rules/VolDepTwoStaticReleaseRule.h"
+#include "scenario/RuleScenario.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

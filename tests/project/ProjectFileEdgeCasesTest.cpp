@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "common/PeriodWalker.h"
+#include "core/ExecutionMethod.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
-#include "operation/ExecutionMethod.h"
 #include "project/JsonLoadElement.h"
 #include "project/JsonProjectLoader.h"
 #include "project/JsonSaveBuilder.h"

@@ -8,9 +8,9 @@
 #include <string>
 
 #include "core/ConfigurationHeader.h"
-#include "core/ScenarioManager.h"
 #include "project/JsonLoadElement.h"
 #include "project/JsonSaveElement.h"
+#include "scenario/ScenarioManager.h"
 #include "support/FileText.h"
 #include "support/TemporaryFolder.h"
 

@@ -5,9 +5,9 @@
 #include <regex>
 
 #include "common/PeriodWalker.h"
-#include "common/SerieManager.h"
 #include "common/StringUtils.h"
 #include "core/ReservoirRuleSettings.h"
+#include "core/SerieManager.h"
 #include "operation/ExecutionMethodFactoryByType.h"
 #include "reports/CSVCav.h"
 #include "reports/CSVSeriesWriter.h"

@@ -2,7 +2,6 @@
 
 #include <typeindex>
 
-#include "core/Vocabulary.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
@@ -14,6 +13,7 @@
 #include "rules/VolDepTwoPeriodicReleaseRule.h"
 #include "rules/VolDepTwoStaticReleaseRule.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -3,17 +3,17 @@
 #include <functional>
 
 #include "core/ElementFactory.h"
-#include "core/Vocabulary.h"
+#include "core/ReleaseRule.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
-#include "rules/ReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "rules/VolDepOnePeriodicReleaseRule.h"
 #include "rules/VolDepOneStaticReleaseRule.h"
 #include "rules/VolDepTwoPeriodicReleaseRule.h"
 #include "rules/VolDepTwoStaticReleaseRule.h"
 #include "support/ExpectThrow.h"
+#include "vocabulary/Vocabulary.h"
 
 TEST(ReleaseRule, PeriodicReleasesTheValueOfTheMonth) {
   PeriodicReleaseRule rule;

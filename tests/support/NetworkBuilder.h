@@ -6,10 +6,10 @@
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
 #include "core/Reservoir.h"
-#include "core/RuleScenario.h"
 #include "core/RuleSettings.h"
-#include "core/Vocabulary.h"
 #include "operation/ExecutionContinuous.h"
+#include "scenario/RuleScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 // Builds rule scenarios in code: nodes and links get consecutive ids in the order they are added.
 class NetworkBuilder {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "common/Point2D.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // An interpolator over a table of points: calculate() prepares it from the table, fit() gives the
 // y of any x.

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "common/regression/RegressionTechnique.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 // Makes interpolators by their stored type.
 class RegressionTechniqueFactory {

@@ -4,7 +4,7 @@
 #include <map>
 #include <memory>
 
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 namespace SQLite {
 class Database;

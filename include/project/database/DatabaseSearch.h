@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "common/Date.h"
-#include "core/EnumTypes.h"
 #include "project/database/SerieTypeKey.h"
+#include "vocabulary/EnumTypes.h"
 
 namespace SQLite {
 class Database;

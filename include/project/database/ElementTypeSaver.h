@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <map>
 
-#include "core/EnumTypes.h"
+#include "vocabulary/EnumTypes.h"
 
 namespace SQLite {
 class Database;

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "common/Interval.h"
-#include "core/Enum.h"
-#include "core/EnumTypes.h"
+#include "vocabulary/Enum.h"
+#include "vocabulary/EnumTypes.h"
 
 // A quick look into a project file: what each scenario is, read from the file alone, without
 // building the model or opening the database.

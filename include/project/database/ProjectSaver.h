@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "core/EnumTypes.h"
 #include "project/database/SerieTypeKey.h"
+#include "vocabulary/EnumTypes.h"
 
 namespace SQLite {
 class Database;

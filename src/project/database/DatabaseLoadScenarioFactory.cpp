@@ -4,8 +4,8 @@
 #include <map>
 #include <stdexcept>
 
-#include "core/Vocabulary.h"
 #include "project/database/DatabaseLoadScenario.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

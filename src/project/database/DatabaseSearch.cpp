@@ -5,8 +5,8 @@
 #include <stdexcept>
 
 #include "core/Element.h"
-#include "core/Vocabulary.h"
 #include "project/database/DatabaseException.h"
+#include "vocabulary/Vocabulary.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "project/database/ElementTypeSaver.h"
 
-#include "core/Vocabulary.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/NamedRows.h"
+#include "vocabulary/Vocabulary.h"
 
 std::map<ElementType, int64_t> ElementTypeSaver::save(SQLite::Database& storage) {
   std::vector<std::string> names;

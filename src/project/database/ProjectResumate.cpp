@@ -5,9 +5,9 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
-#include "core/EnumFactories.h"
 #include "project/JsonLoadHelper.h"
 #include "project/JsonLoadInterval.h"
+#include "vocabulary/EnumFactories.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "core/ScenarioManager.h"
 #include "project/database/ProjectSaver.h"
 #include "project/database/SQLStorage.h"
+#include "scenario/ScenarioManager.h"
 
 bool SQLiteOrmSaver::save(const std::string& path,
                           const std::function<bool(long, long)>& progress) {

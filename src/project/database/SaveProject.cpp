@@ -3,12 +3,12 @@
 #include <memory>
 #include <vector>
 
-#include "core/ScenarioManager.h"
 #include "project/JsonSaveBuilder.h"
 #include "project/database/LoadProject.h"
 #include "project/database/ProjectSaver.h"
 #include "project/database/SQLStorage.h"
 #include "project/database/SQLiteOrmSaver.h"
+#include "scenario/ScenarioManager.h"
 
 bool SaveProject::save(const std::string& path, const Progress&) {
   return JsonSaveBuilder::save(path);

@@ -2,8 +2,8 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-#include "core/Vocabulary.h"
 #include "project/database/DatabaseSearch.h"
+#include "vocabulary/Vocabulary.h"
 
 std::string SerieTypeLiteSaver::directionToString(int direction) {
   if (direction == 0) return "input";

@@ -1,8 +1,8 @@
 #include "project/database/UnitTypeSaver.h"
 
-#include "core/Vocabulary.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/NamedRows.h"
+#include "vocabulary/Vocabulary.h"
 
 std::map<std::string, int64_t> UnitTypeSaver::save(SQLite::Database& storage) {
   std::vector<std::string> names;

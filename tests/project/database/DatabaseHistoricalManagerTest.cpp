@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/CoreServiceManager.h"
 #include "core/ElementsFilter.h"
+#include "managers/CoreServiceManager.h"
 #include "project/database/DatabaseHistoricalManager.h"
 #include "project/database/DatabaseInsert.h"
 #include "project/database/DatabaseSceneryCopy.h"

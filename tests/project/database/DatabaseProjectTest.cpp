@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "core/PriorityReservoirSettings.h"
+#include "managers/ProjectFunctions.h"
 #include "operation/PriorityNetworkBuilder.h"
 #include "project/JsonProjectLoader.h"
 #include "project/database/DatabaseProjectLoader.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/DatabaseTestSupport.h"
 #include "project/database/LoadProject.h"
-#include "project/database/ProjectFunctions.h"
 #include "project/database/SaveProject.h"
 #include "project/database/SerieSaver.h"
 #include "project/database/StorageManager.h"

@@ -9,13 +9,13 @@
 #include <string>
 #include <vector>
 
-#include "support/TemporaryFolder.h"
 #include "core/ConfigurationHeader.h"
 #include "core/Reservoir.h"
-#include "core/ScenarioManager.h"
 #include "project/database/SQLStorage.h"
 #include "project/database/SQLiteOrmUtilities.h"
+#include "scenario/ScenarioManager.h"
 #include "support/RealisticNetwork.h"
+#include "support/TemporaryFolder.h"
 
 namespace databasetest {
 

@@ -3,16 +3,16 @@
 #include <filesystem>
 
 #include "common/Calendar.h"
-#include "core/PriorityScenario.h"
+#include "managers/ProjectFunctions.h"
 #include "operation/ExecutionContinuous.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/DatabaseTestSupport.h"
 #include "project/database/DatabaseUpdate.h"
 #include "project/database/LoadProject.h"
-#include "project/database/ProjectFunctions.h"
 #include "project/database/ProjectResumate.h"
 #include "project/database/SaveProject.h"
 #include "project/database/UserLiteSaver.h"
+#include "scenario/PriorityScenario.h"
 #include "support/ExpectThrow.h"
 
 using namespace databasetest;

@@ -60,5 +60,9 @@ KOVA_RELEASE_RULE_CHECK(VolDepOneStaticReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(VolDepOnePeriodicReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(VolDepTwoStaticReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(VolDepTwoPeriodicReleaseRuleCheck);
+KOVA_RELEASE_RULE_CHECK(OptNoneReleaseRuleCheck);
+KOVA_RELEASE_RULE_CHECK(OptConstReleaseRuleCheck);
+KOVA_RELEASE_RULE_CHECK(OptPeriodicReleaseRuleCheck);
+KOVA_RELEASE_RULE_CHECK(OptSerieReleaseRuleCheck);
 
 #undef KOVA_RELEASE_RULE_CHECK

@@ -23,4 +23,8 @@ class ReleaseRuleFactory {
   static std::shared_ptr<ReleaseRule> makeVolDepOnePeriodicRelease();
   static std::shared_ptr<ReleaseRule> makeVolDepTwoStaticRelease();
   static std::shared_ptr<ReleaseRule> makeVolDepTwoPeriodicRelease();
+  static std::shared_ptr<ReleaseRule> makeOptNoneReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeOptConstReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeOptPeriodicReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeOptSerieReleaseRule();
 };

@@ -33,7 +33,8 @@ void addPriorityMakers(std::map<KeySettings, Maker>& makers) {
   }
 }
 
-// A guarantee-curve search runs rule simulations, so its elements are checked as theirs.
+// Optimisations and guarantee-curve searches run rule simulations, so their elements are checked
+// as theirs.
 void addRuleMakers(std::map<KeySettings, Maker>& makers, ScenarioType scenario) {
   makers[{scenario, ElementType::reservoir}] = ElementCheckFactory::makeReservoirCheckRule;
   for (ElementType demand : ElementSets::demands()) {
@@ -51,6 +52,7 @@ const std::map<KeySettings, Maker>& makers() {
     std::map<KeySettings, Maker> result;
     addPriorityMakers(result);
     addRuleMakers(result, ScenarioType::ruleSimulator);
+    addRuleMakers(result, ScenarioType::ruleOptimizer);
     addRuleMakers(result, ScenarioType::guaranteeCurve);
     return result;
   }();

@@ -9,6 +9,9 @@
 #include "core/Scenario.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
+#include "rules/OptConstReleaseRule.h"
+#include "rules/OptPeriodicReleaseRule.h"
+#include "rules/OptSerieReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "rules/VolDepOneReleaseRule.h"
@@ -83,6 +86,49 @@ void eachNegativeCell(ReleaseRuleCheck* check, Report report) {
   }
 }
 
+template <typename Rule>
+void checkConstRelease(ReleaseRuleCheck* check) {
+  if (negative(check->rule<Rule>().getRelease())) {
+    check->report("Valor negativo na liberação constante:");
+  }
+}
+
+template <typename Rule>
+void checkMonthlyReleases(ReleaseRuleCheck* check) {
+  const auto& releases = check->rule<Rule>().getRelease();
+  for (std::size_t m = 0; m < releases.size(); ++m) {
+    if (negative(releases[m])) {
+      check->report("Valor negativo na liberação periódica no mês m:(m = " + std::to_string(m + 1) +
+                    ")");
+    }
+  }
+}
+
+template <typename Rule>
+void checkReleaseSerie(ReleaseRuleCheck* check) {
+  SerieCheck serieCheck(check->rule<Rule>().getReleaseSerie(), check->getScenario()->getInterval(),
+                        check->getElement()->getName());
+  serieCheck.check();
+  auto& errors = check->getErrors();
+  errors.insert(errors.end(), serieCheck.getErrors().begin(), serieCheck.getErrors().end());
+}
+
+const char* kNegativeMaximum = "Valor máximo de liberação negativo na regra de otimização:";
+
+// The range in which an optimiser chooses the releases of the rule.
+template <typename Rule>
+void checkBounds(ReleaseRuleCheck* check) {
+  const auto& rule = check->rule<Rule>();
+  if (negative(rule.getLowerRelease())) {
+    check->report("Valor mínimo de liberação negativo na regra de otimização:");
+  }
+  if (negative(rule.getUpperRelease())) check->report(kNegativeMaximum);
+  if (NumericalUtils::subtractDoubles(rule.getLowerRelease(), rule.getUpperRelease(), 1e-6) >=
+      0.0) {
+    check->report("Liberação mínima maior ou igual a liberação máxima na regra de otimização:");
+  }
+}
+
 const char* kStaticOne = "liberação estática por dependência de volume de 1 reservatório";
 const char* kPeriodicOne = "liberação periódica por dependência de volume de 1 reservatório";
 const char* kStaticTwo = "liberação estática por dependência de volume de 2 reservatórios";
@@ -110,35 +156,41 @@ std::shared_ptr<ReleaseRule> ReleaseRuleCheck::ruleOfElement() const {
 std::vector<ReleaseRuleCheck::Lambda> NoneReleaseRuleCheck::getLambdas() const { return {}; }
 
 std::vector<ReleaseRuleCheck::Lambda> ConstReleaseRuleCheck::getLambdas() const {
-  static const std::vector<Lambda> table = {[](ReleaseRuleCheck* check) {
-    if (negative(check->rule<ConstReleaseRule>().getRelease())) {
-      check->report("Valor negativo na liberação constante:");
-    }
-  }};
+  static const std::vector<Lambda> table = {checkConstRelease<ConstReleaseRule>};
   return table;
 }
 
 std::vector<ReleaseRuleCheck::Lambda> PeriodicReleaseRuleCheck::getLambdas() const {
-  static const std::vector<Lambda> table = {[](ReleaseRuleCheck* check) {
-    const auto& releases = check->rule<PeriodicReleaseRule>().getRelease();
-    for (std::size_t m = 0; m < releases.size(); ++m) {
-      if (negative(releases[m])) {
-        check->report("Valor negativo na liberação periódica no mês m:(m = " + std::to_string(m + 1) +
-                      ")");
-      }
-    }
-  }};
+  static const std::vector<Lambda> table = {checkMonthlyReleases<PeriodicReleaseRule>};
   return table;
 }
 
 std::vector<ReleaseRuleCheck::Lambda> SerieReleaseRuleCheck::getLambdas() const {
-  static const std::vector<Lambda> table = {[](ReleaseRuleCheck* check) {
-    SerieCheck serieCheck(check->rule<SerieReleaseRule>().getReleaseSerie(),
-                          check->getScenario()->getInterval(), check->getElement()->getName());
-    serieCheck.check();
-    auto& errors = check->getErrors();
-    errors.insert(errors.end(), serieCheck.getErrors().begin(), serieCheck.getErrors().end());
-  }};
+  static const std::vector<Lambda> table = {checkReleaseSerie<SerieReleaseRule>};
+  return table;
+}
+
+std::vector<ReleaseRuleCheck::Lambda> OptNoneReleaseRuleCheck::getLambdas() const { return {}; }
+
+std::vector<ReleaseRuleCheck::Lambda> OptConstReleaseRuleCheck::getLambdas() const {
+  static const std::vector<Lambda> table = {checkConstRelease<OptConstReleaseRule>,
+                                            checkBounds<OptConstReleaseRule>};
+  return table;
+}
+
+std::vector<ReleaseRuleCheck::Lambda> OptPeriodicReleaseRuleCheck::getLambdas() const {
+  static const std::vector<Lambda> table = {checkMonthlyReleases<OptPeriodicReleaseRule>,
+                                            checkBounds<OptPeriodicReleaseRule>};
+  return table;
+}
+
+std::vector<ReleaseRuleCheck::Lambda> OptSerieReleaseRuleCheck::getLambdas() const {
+  static const std::vector<Lambda> table = {
+      checkReleaseSerie<OptSerieReleaseRule>, [](ReleaseRuleCheck* check) {
+        if (negative(check->rule<OptSerieReleaseRule>().getMaxRelease())) {
+          check->report(kNegativeMaximum);
+        }
+      }};
   return table;
 }
 
@@ -252,6 +304,16 @@ std::shared_ptr<ReleaseRuleCheck> ReleaseRuleCheckFactory::make(std::weak_ptr<Sc
        [](auto s, auto e, auto& x) {
          return std::make_shared<VolDepTwoPeriodicReleaseRuleCheck>(s, e, x);
        }},
+      {R::optNone,
+       [](auto s, auto e, auto& x) { return std::make_shared<OptNoneReleaseRuleCheck>(s, e, x); }},
+      {R::optConstant,
+       [](auto s, auto e, auto& x) { return std::make_shared<OptConstReleaseRuleCheck>(s, e, x); }},
+      {R::optPeriodic,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<OptPeriodicReleaseRuleCheck>(s, e, x);
+       }},
+      {R::optSerie,
+       [](auto s, auto e, auto& x) { return std::make_shared<OptSerieReleaseRuleCheck>(s, e, x); }},
   };
   const auto rule =
       Scenario::getSettings<ReservoirRuleSettings>(element, scenario.lock()->getSettingsManager())

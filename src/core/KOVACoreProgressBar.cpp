@@ -7,8 +7,7 @@ KOVACoreProgressBar::KOVACoreProgressBar(unsigned int current, unsigned int size
 bool KOVACoreProgressBar::update() {
   ++current;
   if (!callback) return true;
-  const long percentage = static_cast<long>(current * 100.0 / size);
-  return callback(percentage, static_cast<long>(size));
+  return callback(static_cast<long>(getPercentCurrentProgress()), static_cast<long>(size));
 }
 
 void KOVACoreProgressBar::updateWithThrow() {
@@ -16,5 +15,7 @@ void KOVACoreProgressBar::updateWithThrow() {
 }
 
 double KOVACoreProgressBar::getPercentCurrentProgress() const {
-  return static_cast<double>(current) / size * 100.0;
+  // A bar of no steps is done; an optimisation steps once more per particle than its bar counts.
+  if (size == 0 || current >= size) return 100.0;
+  return current * 100.0 / size;
 }

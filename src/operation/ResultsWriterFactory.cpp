@@ -33,8 +33,9 @@ void addWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario,
 const std::map<KeySettings, Maker>& makers() {
   static const std::map<KeySettings, Maker> table = [] {
     std::map<KeySettings, Maker> result;
-    addWriters(result, ScenarioType::ruleSimulator,
-               ResultsWriterFactory::makeReservoirRuleResultsWriter);
+    for (ScenarioType rule : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer}) {
+      addWriters(result, rule, ResultsWriterFactory::makeReservoirRuleResultsWriter);
+    }
     addWriters(result, ScenarioType::priorityOptimizer,
                ResultsWriterFactory::makeReservoirPriorityResultsWriter);
     return result;

@@ -6,6 +6,10 @@
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
+#include "rules/OptConstReleaseRule.h"
+#include "rules/OptNoneReleaseRule.h"
+#include "rules/OptPeriodicReleaseRule.h"
+#include "rules/OptSerieReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "rules/VolDepOnePeriodicReleaseRule.h"
@@ -31,6 +35,10 @@ const std::map<ReleaseRuleType, Maker>& makersByType() {
       {R::periodicVolumeDependence1, ReleaseRuleFactory::makeVolDepOnePeriodicRelease},
       {R::staticVolumeDependence2, ReleaseRuleFactory::makeVolDepTwoStaticRelease},
       {R::periodicVolumeDependence2, ReleaseRuleFactory::makeVolDepTwoPeriodicRelease},
+      {R::optNone, ReleaseRuleFactory::makeOptNoneReleaseRule},
+      {R::optConstant, ReleaseRuleFactory::makeOptConstReleaseRule},
+      {R::optPeriodic, ReleaseRuleFactory::makeOptPeriodicReleaseRule},
+      {R::optSerie, ReleaseRuleFactory::makeOptSerieReleaseRule},
   };
   return table;
 }
@@ -99,4 +107,20 @@ std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeVolDepTwoStaticRelease() {
 
 std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeVolDepTwoPeriodicRelease() {
   return std::make_shared<VolDepTwoPeriodicReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptNoneReleaseRule() {
+  return std::make_shared<OptNoneReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptConstReleaseRule() {
+  return std::make_shared<OptConstReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptPeriodicReleaseRule() {
+  return std::make_shared<OptPeriodicReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptSerieReleaseRule() {
+  return std::make_shared<OptSerieReleaseRule>();
 }

@@ -342,8 +342,8 @@ TEST(ElementCheckFactory, EveryElementOfAPriorityScenarioGetsTheCheckOfItsKind) 
   EXPECT_EQ(demandCheck.maxPriority(), 99.0);
   EXPECT_EQ(drainCheck.maxPriority(), 100.0);
 
-  auto optimisation = std::make_shared<RuleScenarioOfKind<ScenarioType::ruleOptimizer>>();
-  EXPECT_THROW_TEXT(ElementCheckFactory::make(network.reservoir, optimisation),
+  auto systemCurve = std::make_shared<RuleScenarioOfKind<ScenarioType::systemGuaranteeCurve>>();
+  EXPECT_THROW_TEXT(ElementCheckFactory::make(network.reservoir, systemCurve),
                     std::invalid_argument, "ElementCheckFactory::make(): invalid parameter key");
 }
 

@@ -1,10 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <typeindex>
 
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
+#include "rules/OptConstReleaseRule.h"
+#include "rules/OptNoneReleaseRule.h"
+#include "rules/OptPeriodicReleaseRule.h"
+#include "rules/OptSerieReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/ReleaseRuleFactory.h"
 #include "rules/SerieReleaseRule.h"
@@ -19,16 +24,21 @@ namespace {
 
 const char kRefusal[] = "ReleaseRuleFactory::make(): invalid ReleaseRuleType";
 
-// The class made for each type, in the order of the types 0 to 8.
-const std::type_index kClasses[] = {typeid(NoneReleaseRule),
-                                    typeid(ConstReleaseRule),
-                                    typeid(PeriodicReleaseRule),
-                                    typeid(SerieReleaseRule),
-                                    typeid(HydrologicalStateReleaseRule),
-                                    typeid(VolDepOneStaticReleaseRule),
-                                    typeid(VolDepOnePeriodicReleaseRule),
-                                    typeid(VolDepTwoStaticReleaseRule),
-                                    typeid(VolDepTwoPeriodicReleaseRule)};
+// The class made for each type the factory knows.
+const std::map<ReleaseRuleType, std::type_index> kClasses = {
+    {ReleaseRuleType::none, typeid(NoneReleaseRule)},
+    {ReleaseRuleType::constant, typeid(ConstReleaseRule)},
+    {ReleaseRuleType::periodic, typeid(PeriodicReleaseRule)},
+    {ReleaseRuleType::serie, typeid(SerieReleaseRule)},
+    {ReleaseRuleType::hydrologicalState, typeid(HydrologicalStateReleaseRule)},
+    {ReleaseRuleType::staticVolumeDependence1, typeid(VolDepOneStaticReleaseRule)},
+    {ReleaseRuleType::periodicVolumeDependence1, typeid(VolDepOnePeriodicReleaseRule)},
+    {ReleaseRuleType::staticVolumeDependence2, typeid(VolDepTwoStaticReleaseRule)},
+    {ReleaseRuleType::periodicVolumeDependence2, typeid(VolDepTwoPeriodicReleaseRule)},
+    {ReleaseRuleType::optNone, typeid(OptNoneReleaseRule)},
+    {ReleaseRuleType::optConstant, typeid(OptConstReleaseRule)},
+    {ReleaseRuleType::optPeriodic, typeid(OptPeriodicReleaseRule)},
+    {ReleaseRuleType::optSerie, typeid(OptSerieReleaseRule)}};
 
 std::type_index classOf(const std::shared_ptr<ReleaseRule>& rule) {
   const ReleaseRule& object = *rule;
@@ -39,22 +49,21 @@ std::type_index classOf(const std::shared_ptr<ReleaseRule>& rule) {
 
 // Every rule is made by type and by name, and copies itself into a new rule of its class with the
 // run's settings.
-TEST(ReleaseRuleFactory, MakesAndCopiesEverySimulationRule) {
+TEST(ReleaseRuleFactory, MakesAndCopiesEveryRule) {
   const Interval interval(Date(1990, 1, 1), Date(1990, 12, 1), Vocabulary::of(Periodicity::daily));
-  for (int value = 0; value <= 8; ++value) {
-    const auto type = static_cast<ReleaseRuleType>(value);
+  for (const auto& [type, madeClass] : kClasses) {
     SCOPED_TRACE(Vocabulary::of(type).getName());
     const auto rule = ReleaseRuleFactory::make(type);
-    EXPECT_EQ(classOf(rule), kClasses[value]);
+    EXPECT_EQ(classOf(rule), madeClass);
     EXPECT_EQ(rule->getType(), Vocabulary::of(type));
-    EXPECT_EQ(classOf(ReleaseRuleFactory::make(Vocabulary::of(type).getName())), kClasses[value]);
+    EXPECT_EQ(classOf(ReleaseRuleFactory::make(Vocabulary::of(type).getName())), madeClass);
 
     rule->setInterval(interval);
     rule->setWindowIndex(3);
     rule->setZeroContribution(true);
     const auto copy = rule->copy();
     EXPECT_NE(copy, rule);
-    EXPECT_EQ(classOf(copy), kClasses[value]);
+    EXPECT_EQ(classOf(copy), madeClass);
     EXPECT_EQ(copy->getInterval(), interval);
     EXPECT_EQ(copy->getWindowIndex(), 3u);
     EXPECT_TRUE(copy->getZeroContribution());
@@ -64,6 +73,7 @@ TEST(ReleaseRuleFactory, MakesAndCopiesEverySimulationRule) {
 TEST(ReleaseRuleFactory, RefusesTheRulesNotYetAvailableAndUnknownKeys) {
   for (int value = 9; value <= 20; ++value) {
     const auto type = static_cast<ReleaseRuleType>(value);
+    if (kClasses.count(type) != 0) continue;
     SCOPED_TRACE(Vocabulary::of(type).getName());
     EXPECT_THROW_TEXT(ReleaseRuleFactory::make(type), std::invalid_argument, kRefusal);
     EXPECT_THROW_TEXT(ReleaseRuleFactory::make(Vocabulary::of(type).getName()),

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "core/ElementFactory.h"
 #include "core/LinkFactory.h"
@@ -17,6 +18,8 @@ class NetworkBuilder {
   explicit NetworkBuilder(const Interval& interval)
       : scenario(std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 1,
                                                 interval, "Teste")) {}
+  // Builds into a scenario of another rule kind.
+  explicit NetworkBuilder(std::shared_ptr<RuleScenario> target) : scenario(std::move(target)) {}
 
   static Interval monthly(unsigned int firstYear, unsigned int lastYear) {
     return Interval(Date(firstYear, 1, 1), Date(lastYear, 12, 1),

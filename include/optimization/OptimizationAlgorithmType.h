@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+// The swarms that can optimise rules.
+enum class OptimizationAlgorithmType : int { smpso = 0, omopso = 1, pso = 2 };
+
+// The names of the swarms, as the project file writes them: "SMPSO", "OMOPSO", "PSO".
+class OptimizationAlgorithmTypeNames {
+ public:
+  static const std::string& nameOf(OptimizationAlgorithmType type);
+  // Throws std::invalid_argument
+  // "getOptimizationAlgorithmTypeByString(): Invalid optimization algorithm type" for another name.
+  static OptimizationAlgorithmType typeOf(const std::string& name);
+};

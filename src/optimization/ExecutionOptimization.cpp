@@ -1,0 +1,190 @@
+#include "optimization/ExecutionOptimization.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "common/Calendar.h"
+#include "core/ElementSets.h"
+#include "core/ElementsFilter.h"
+#include "core/ResultFactory.h"
+#include "operation/OperationSystem.h"
+#include "optimization/AlgorithmParametersFactory.h"
+#include "optimization/ObjectiveFunctionFactory.h"
+#include "optimization/OptimizationAlgorithmFactory.h"
+#include "optimization/OptimizationUtils.h"
+#include "optimization/kernel/Solution.h"
+
+namespace {
+
+constexpr std::uint32_t kFirstSize = 1;
+
+// The parameters a swarm of type starts with: those of the present swarm where both have them.
+std::shared_ptr<AlgorithmParameters> startingParameters(
+    OptimizationAlgorithmType type, const std::shared_ptr<AlgorithmParameters>& present) {
+  auto parameters = AlgorithmParametersFactory::make(type);
+  if (present) {
+    parameters->copyFrom(present);
+    return parameters;
+  }
+  auto& pso = static_cast<PSOParameters&>(*parameters);
+  pso.swarmSize = kFirstSize;
+  pso.maxIterations = kFirstSize;
+  if (auto* mpso = dynamic_cast<MPSOParameters*>(parameters.get())) mpso->archiveSize = kFirstSize;
+  return parameters;
+}
+
+}  // namespace
+
+ExecutionOptimization::ExecutionOptimization() : ExecutionMethod(ExecutionType::optimization) {}
+
+void ExecutionOptimization::createResults(const Elements& runElements, const Interval& runInterval,
+                                          const Enum<ScenarioType>& type) {
+  scenarioType = type;
+  for (const auto& element : runElements) {
+    if (!element->isEnabled()) continue;
+    element->setOutputSeries(
+        ResultFactory::make({ExecutionType::continuous, element->getType(), type.getType()}, 1));
+    element->setIntervalSeries(runInterval);
+  }
+}
+
+bool ExecutionOptimization::run(const Interval& runInterval,
+                                const std::shared_ptr<OperationSystem>& operation,
+                                const Progress& progress) {
+  if (!algorithm) {
+    throw std::runtime_error("ExecutionOptimization::run: The algorithm not is configured");
+  }
+  progressBar = std::make_shared<KOVACoreProgressBar>(
+      0, algorithm->getAlgorithmParameters()->getNumberOfRuns(), progress);
+  operationSystem = operation;
+  interval = runInterval;
+  try {
+    algorithm->initialize();
+    algorithm->run();
+  } catch (const KOVACoreProgressBar::ProgressCancelException&) {
+    return false;
+  }
+  return true;
+}
+
+void ExecutionOptimization::run() {
+  createResults(elements, interval, scenarioType);
+  operationSystem->setWindowIndex(0);
+  Date date = interval.getBegin();
+  while (date <= interval.getEnd()) {
+    operationSystem->setDate(date);
+    operationSystem->runModel();
+    date += Calendar::incInterval(date, interval);
+  }
+}
+
+void ExecutionOptimization::configureSolution(Solution* solution) {
+  OptimizationUtils::setDecisionVars(OptimizationUtils::makeVectorFromSolution(solution),
+                                     reservoirs(), *settingsManager);
+  run();
+  for (std::size_t i = 0; i < objectiveFunctions.size(); ++i) {
+    solution->setObjective(static_cast<int>(i), objectiveFunctions[i]->getValue(0));
+  }
+  progressBar->updateWithThrow();
+}
+
+const std::shared_ptr<ObjectiveFunction>& ExecutionOptimization::getObjectiveFunction(
+    ObjectiveFunctionType type) const {
+  for (const auto& function : objectiveFunctions) {
+    if (function->getType().getType() == type) return function;
+  }
+  throw std::invalid_argument(
+      "ExecutionOptimization:getObjectiveFunction: The objective function has not been added");
+}
+
+bool ExecutionOptimization::isDefinedObjectiveFunction(ObjectiveFunctionType type) const {
+  return std::any_of(objectiveFunctions.begin(), objectiveFunctions.end(),
+                     [type](const auto& function) { return function->getType().getType() == type; });
+}
+
+void ExecutionOptimization::deleteObjectiveFunction(ObjectiveFunctionType type) {
+  const auto it =
+      std::find_if(objectiveFunctions.begin(), objectiveFunctions.end(),
+                   [type](const auto& function) { return function->getType().getType() == type; });
+  if (it == objectiveFunctions.end()) {
+    throw std::invalid_argument(
+        "ExecutionOptimization:deleteObjectiveFunction: The objective function has not been added");
+  }
+  objectiveFunctions.erase(it);
+}
+
+void ExecutionOptimization::addObjectiveFunction(ObjectiveFunctionType type, bool minimize,
+                                                 const Elements& functionElements) {
+  if (isDefinedObjectiveFunction(type)) {
+    throw std::invalid_argument("ExecutionOptimization::addObjectiveFunction: the type:" +
+                                ObjectiveFunctionTypeEnum::of(type).getName() + "Already added");
+  }
+  objectiveFunctions.push_back(ObjectiveFunctionFactory::make(type, minimize, functionElements));
+}
+
+std::shared_ptr<AlgorithmParameters> ExecutionOptimization::getAlgorithmParameters() const {
+  return algorithm ? algorithm->getAlgorithmParameters() : nullptr;
+}
+
+void ExecutionOptimization::configureAlgorithm(OptimizationAlgorithmType type) {
+  if (objectiveFunctions.size() < 2) {
+    throw std::runtime_error(
+        "ExecutionOptimization::configureAlgorithm: There must be at least two objective "
+        "functions.");
+  }
+  configure(type, startingParameters(type, getAlgorithmParameters()));
+  algorithm->initialize();
+}
+
+void ExecutionOptimization::reconfigureAlgorithm() {
+  if (!algorithm) {
+    throw std::runtime_error(
+        "ExecutionOptimization::reconfigureAlgorithm: The algorithm not is configured");
+  }
+  configure(algorithm->getType(), algorithm->getAlgorithmParameters());
+}
+
+void ExecutionOptimization::configure(OptimizationAlgorithmType type,
+                                      const std::shared_ptr<AlgorithmParameters>& values) {
+  algorithm = OptimizationAlgorithmFactory::make(type, values, metalParameters());
+}
+
+KOVARuleMetalParameters ExecutionOptimization::metalParameters() {
+  KOVARuleMetalParameters parameters;
+  parameters.evaluate = [this](Solution* solution) { configureSolution(solution); };
+  parameters.solutionType = "Real";
+  parameters.numberOfVariables = static_cast<int>(
+      settingsManager ? OptimizationUtils::getNumOfDecisionVars(reservoirs(), *settingsManager) : 0);
+  parameters.numberOfObjectives = static_cast<int>(objectiveFunctions.size());
+  return parameters;
+}
+
+void ExecutionOptimization::setElements(const Elements& value) {
+  elements = value;
+  for (auto& function : objectiveFunctions) {
+    Elements followed;
+    for (const auto& old : function->getElements()) {
+      const auto found = std::find_if(elements.begin(), elements.end(), [&](const auto& element) {
+        return element->getId() == old->getId();
+      });
+      if (found != elements.end()) followed.push_back(*found);
+    }
+    function = ObjectiveFunctionFactory::make(function->getType().getType(),
+                                              function->isMinimization(), followed);
+  }
+}
+
+ExecutionOptimization::Elements ExecutionOptimization::reservoirs() const {
+  return ElementsFilter::filterByType(elements, ElementSets::reservoir());
+}
+
+std::shared_ptr<ExecutionMethod> ExecutionOptimization::copySpecific() const {
+  auto copy = std::make_shared<ExecutionOptimization>();
+  copy->objectiveFunctions = objectiveFunctions;
+  if (algorithm) {
+    auto parameters = AlgorithmParametersFactory::make(algorithm->getType());
+    parameters->copyFrom(algorithm->getAlgorithmParameters());
+    copy->configure(algorithm->getType(), parameters);
+  }
+  return copy;
+}

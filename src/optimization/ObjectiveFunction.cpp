@@ -1,0 +1,91 @@
+#include "optimization/ObjectiveFunction.h"
+
+#include <utility>
+
+#include "common/PeriodWalker.h"
+#include "common/SerieStatistics.h"
+#include "core/Link.h"
+#include "hydrology/HydrologicalBalance.h"
+#include "vocabulary/Vocabulary.h"
+
+ObjectiveFunction::ObjectiveFunction(bool minimize, Elements elements)
+    : minimize(minimize), elements(std::move(elements)) {}
+
+double ObjectiveFunction::getValue(unsigned int index) const {
+  const auto& types = getType().getElementTypes();
+  double value = 0.0;
+  for (const auto& element : elements) {
+    if (!element->isEnabled() || types.count(element->getType()) == 0) continue;
+    value += valueOf(*element, index);
+  }
+  return minimize ? value : -value;
+}
+
+double ObjectiveFunction::sumOf(const Element& element, SerieType kind, unsigned int index) {
+  return SerieStatistics::sum(*element.getOutputSerie(kind, index));
+}
+
+const ObjectiveFunctionTypeEnum& EvaporationLossFunction::getType() const {
+  return ObjectiveFunctionTypeEnum::of(ObjectiveFunctionType::evaporationLoss);
+}
+
+Enum<Unit> EvaporationLossFunction::getUnit() const {
+  return Vocabulary::of(Unit::cubicHectometres);
+}
+
+double EvaporationLossFunction::valueOf(const Element& element, unsigned int index) const {
+  return sumOf(element, SerieType::evaporatedVolume, index);
+}
+
+const ObjectiveFunctionTypeEnum& NumberOfFailuresFunction::getType() const {
+  return ObjectiveFunctionTypeEnum::of(ObjectiveFunctionType::numberOfFailures);
+}
+
+Enum<Unit> NumberOfFailuresFunction::getUnit() const {
+  return Vocabulary::of(Unit::dimensionless);
+}
+
+double NumberOfFailuresFunction::valueOf(const Element& element, unsigned int index) const {
+  return sumOf(element, SerieType::supplyFailure, index);
+}
+
+const ObjectiveFunctionTypeEnum& ShortageVolumeFunction::getType() const {
+  return ObjectiveFunctionTypeEnum::of(ObjectiveFunctionType::shortageVolume);
+}
+
+Enum<Unit> ShortageVolumeFunction::getUnit() const {
+  return Vocabulary::of(Unit::cubicHectometres);
+}
+
+double ShortageVolumeFunction::valueOf(const Element& element, unsigned int index) const {
+  const Serie& shortage = *element.getOutputSerie(SerieType::supplyShortage, index);
+  const auto balance =
+      HydrologicalBalanceFactory::make(shortage.getInterval().getPeriodicity().getType());
+  double volume = 0.0;
+  PeriodWalker::forEach(shortage.getInterval(), [&](const Date& date) {
+    volume += balance->hm3(date, shortage.getValue(date));
+  });
+  return volume;
+}
+
+const ObjectiveFunctionTypeEnum& SpillVolumeFunction::getType() const {
+  return ObjectiveFunctionTypeEnum::of(ObjectiveFunctionType::spillVolume);
+}
+
+Enum<Unit> SpillVolumeFunction::getUnit() const { return Vocabulary::of(Unit::cubicHectometres); }
+
+double SpillVolumeFunction::valueOf(const Element& element, unsigned int index) const {
+  return sumOf(element, SerieType::spilledVolume, index);
+}
+
+const ObjectiveFunctionTypeEnum& PumpingCostFunction::getType() const {
+  return ObjectiveFunctionTypeEnum::of(ObjectiveFunctionType::pumpingCost);
+}
+
+Enum<Unit> PumpingCostFunction::getUnit() const { return Vocabulary::of(Unit::reais); }
+
+double PumpingCostFunction::valueOf(const Element& element, unsigned int index) const {
+  const auto& link = static_cast<const Link&>(element);
+  if (!link.getLinkAddon() || link.getLinkAddon()->getType() != LinkAddonType::pumping) return 0.0;
+  return sumOf(element, SerieType::pumpingCost, index);
+}

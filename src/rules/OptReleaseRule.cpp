@@ -1,0 +1,12 @@
+#include "rules/OptReleaseRule.h"
+
+#include <stdexcept>
+#include <string>
+
+void OptReleaseRule::checkDecisionVarsSize(const std::vector<double>& values,
+                                           const char* className) const {
+  if (values.size() != getNumOfDecisionVars()) {
+    throw std::invalid_argument(std::string(className) +
+                                "::setDecisionVars: Invalid size of values vector");
+  }
+}

@@ -10,7 +10,8 @@ Command CheckCommand::describe() {
           "kova check P.sjson [--scenario NAME]...",
           "check scenarios before running them",
           "Runs the checks of the named scenarios (all when none is named) and prints every\n"
-          "finding as \"<element>: <message>\". Exit status 1 when there is any finding.\n",
+          "finding as its message followed by the place it names (element, series, date and\n"
+          "value, or the scenario). Exit status 1 when there is any finding.\n",
           {{}, {"scenario"}, {}, 1, 1},
           run};
 }

@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "CheckCommand.h"
+#include "CompareCommand.h"
 #include "DemoCommand.h"
 #include "ErrorText.h"
 #include "ExitStatus.h"
@@ -15,6 +16,7 @@
 #include "ReportCommand.h"
 #include "RunCommand.h"
 #include "SaveAsCommand.h"
+#include "SeriesCommand.h"
 #include "UsageError.h"
 
 namespace {
@@ -27,11 +29,11 @@ bool asksForHelp(const std::vector<std::string>& args) {
 }  // namespace
 
 const std::vector<Command>& KovaApp::commands() {
-  static const std::vector<Command> all = {InfoCommand::describe(),   CheckCommand::describe(),
-                                           RunCommand::describe(),    MetricsCommand::describe(),
-                                           ReportCommand::describe(), ExportCommand::describe(),
-                                           NewCommand::describe(),    SaveAsCommand::describe(),
-                                           DemoCommand::describe(),   GenerateCommand::describe()};
+  static const std::vector<Command> all = {
+      InfoCommand::describe(),    CheckCommand::describe(),   RunCommand::describe(),
+      MetricsCommand::describe(), SeriesCommand::describe(),  CompareCommand::describe(),
+      ReportCommand::describe(),  ExportCommand::describe(),  NewCommand::describe(),
+      SaveAsCommand::describe(),  DemoCommand::describe(),    GenerateCommand::describe()};
   return all;
 }
 
@@ -39,6 +41,10 @@ int KovaApp::run(const std::vector<std::string>& args, Console& console) {
   if (args.empty() || args[0] == "--help" || args[0] == "-h" || args[0] == "help") {
     printOverview(args.empty() ? console.err : console.out);
     return args.empty() ? exitUsage : exitOk;
+  }
+  if (args[0] == "--version") {
+    console.out << "kova " << KOVA_VERSION << '\n';
+    return exitOk;
   }
   const auto& all = commands();
   const auto command =
@@ -72,7 +78,7 @@ int KovaApp::runCommand(const Command& command, const std::vector<std::string>& 
 
 void KovaApp::printOverview(std::ostream& out) {
   out << "kova: runs and inspects water-resource system projects (P.sjson with P.sjson.sqlite)\n\n"
-         "Usage: kova <command> [arguments] [options]\n\nCommands:\n";
+         "Usage: kova <command> [arguments] [options]\n       kova --version\n\nCommands:\n";
   for (const auto& command : commands()) {
     out << "  " << command.name
         << std::string(10 - std::min<std::size_t>(9, command.name.size()), ' ') << command.summary

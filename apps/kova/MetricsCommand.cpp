@@ -3,6 +3,7 @@
 #include "ExitStatus.h"
 #include "MetricsTable.h"
 #include "OpenProject.h"
+#include "StoredRun.h"
 #include "UsageError.h"
 #include "core/Scenario.h"
 
@@ -10,13 +11,106 @@ namespace {
 
 using Category = ElementGroup::ElementCategoriesEnum;
 
-std::vector<std::pair<Category, std::string>> categoriesNamed(const std::string& name) {
+struct Selection {
+  std::vector<std::pair<Category, std::string>> categories;
+  bool withDrains = false;
+};
+
+Selection selectionNamed(const std::string& name) {
   const std::pair<Category, std::string> reservoirs{Category::reservoir, "Reservatórios"};
   const std::pair<Category, std::string> demands{Category::demand, "Demandas"};
-  if (name == "all") return {reservoirs, demands};
-  if (name == "reservoirs") return {reservoirs};
-  if (name == "demands") return {demands};
+  if (name == "default") return {{reservoirs, demands}, false};
+  if (name == "all") return {{reservoirs, demands}, true};
+  if (name == "reservoirs") return {{reservoirs}, false};
+  if (name == "demands") return {{demands}, false};
   throw UsageError("option --elements: \"" + name + "\" is not one of all, reservoirs, demands");
+}
+
+// Which windows the command measures: one, or all of them summarised.
+struct Windows {
+  std::size_t first = 0;  // 0-based
+  std::size_t last = 0;
+  std::size_t count = 0;
+  bool summary = false;
+};
+
+Windows windowsAsked(const CommandLine& line, const Scenario& scenario) {
+  Windows windows;
+  windows.count = scenario.calcVectorOfIntervals().size();
+  if (line.has("windows")) {
+    if (line.has("window")) throw UsageError("options --window and --windows exclude each other");
+    if (line.value("windows", "") != "all") {
+      throw UsageError("option --windows: \"" + line.value("windows", "") + "\" is not all");
+    }
+    windows.summary = true;
+    windows.last = windows.count - 1;
+    return windows;
+  }
+  const unsigned long window = line.number("window", 1, 1);
+  if (window > windows.count) {
+    throw UsageError("option --window: scenario \"" + scenario.getName() + "\" has " +
+                     std::to_string(windows.count) + " window(s)");
+  }
+  windows.first = windows.last = window - 1;
+  return windows;
+}
+
+std::string isoDate(const Date& date) { return date.toString("%Y-%m-%d"); }
+
+// What the figures are of: the scenario, the windows and their dates, the stored run.
+struct Heading {
+  std::string scenario;
+  std::string windows;  // "1 of 88" or "all 88"
+  std::string firstDate;
+  std::string lastDate;
+  std::string run;
+  bool stale = false;
+};
+
+Heading headingOf(const Scenario& scenario, const Windows& windows, const StoredRun& run) {
+  const auto intervals = scenario.calcVectorOfIntervals();
+  return {scenario.getName(),
+          windows.summary ? "all " + std::to_string(windows.count)
+                          : std::to_string(windows.first + 1) + " of " + std::to_string(windows.count),
+          isoDate(intervals[windows.first].getBegin()),
+          isoDate(intervals[windows.last].getEnd()),
+          run.getTimeStamp(),
+          run.inputsAreNewer()};
+}
+
+void printHeading(const Heading& heading, MetricsTable::Format format, std::ostream& out) {
+  const std::string mark = format == MetricsTable::Format::csv ? "# " : "";
+  out << mark << "scenario: " << heading.scenario << '\n'
+      << mark << "windows: " << heading.windows << ", " << heading.firstDate << " to "
+      << heading.lastDate << '\n'
+      << mark << "stored run: " << heading.run << '\n';
+  if (heading.stale) out << mark << "warning: the project's inputs were saved after this run\n";
+  out << (format == MetricsTable::Format::csv ? "" : "\n");
+}
+
+nlohmann::ordered_json headingJson(const Heading& heading) {
+  nlohmann::ordered_json json;
+  json["scenario"] = heading.scenario;
+  json["windows"] = heading.windows;
+  json["first"] = heading.firstDate;
+  json["last"] = heading.lastDate;
+  json["storedRun"] = heading.run;
+  json["inputsNewerThanRun"] = heading.stale;
+  return json;
+}
+
+LoadedData measured(const std::shared_ptr<Scenario>& scenario, Category category,
+                    const Windows& windows, bool withDrains) {
+  if (!windows.summary) {
+    return MetricsTable::make(scenario, category, static_cast<unsigned int>(windows.first),
+                              withDrains);
+  }
+  std::vector<LoadedData> each;
+  for (std::size_t window = 0; window < windows.count; ++window) {
+    each.push_back(
+        MetricsTable::make(scenario, category, static_cast<unsigned int>(window), withDrains));
+  }
+  return MetricsTable::summary(each);
 }
 
 }  // namespace
@@ -24,33 +118,42 @@ std::vector<std::pair<Category, std::string>> categoriesNamed(const std::string&
 Command MetricsCommand::describe() {
   return {
       "metrics",
-      "kova metrics P.sjson --scenario NAME [--window N] [--elements all|reservoirs|demands]\n"
-      "             [--format table|csv|json]",
+      "kova metrics P.sjson --scenario NAME [--window N | --windows all]\n"
+      "             [--elements all|reservoirs|demands] [--format table|csv|json]",
       "performance metrics of a stored run",
       "Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
-      "scenario, in window N (counted from 1, default 1). The table has one line per metric\n"
-      "and one column per element; csv has one line per element (the reservoirs' table, a\n"
-      "blank line, then the demands'); json has {\"Reservatórios\": [...], \"Demandas\": [...]}.\n",
-      {{"scenario", "window", "elements", "format"}, {}, {}, 1, 1},
+      "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
+      "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
+      "out unless --elements all. A figure that has no meaning (a division by nothing, a target\n"
+      "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
+      "Every output first names the scenario, the windows with their first and last dates and\n"
+      "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
+      "The table has one line per metric and one column per element; csv has one line per\n"
+      "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
+      "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
+      "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n",
+      {{"scenario", "window", "windows", "elements", "format"}, {}, {}, 1, 1},
       run};
 }
 
 int MetricsCommand::run(const CommandLine& line, Console& console) {
   const auto format = MetricsTable::formatNamed(line.value("format", "table"));
-  const auto categories = categoriesNamed(line.value("elements", "all"));
+  const auto selection = selectionNamed(line.value("elements", "default"));
   OpenProject project(line.positional(0));
   const auto scenario = project.scenario(line.required("scenario"));
-  const unsigned long window = line.number("window", 1, 1);
-  const std::size_t windows = scenario->calcVectorOfIntervals().size();
-  if (window > windows) {
-    throw UsageError("option --window: scenario \"" + scenario->getName() + "\" has " +
-                     std::to_string(windows) + " window(s)");
-  }
+  const Windows windows = windowsAsked(line, *scenario);
   project.loadLatestResults(scenario);
-  nlohmann::ordered_json json;
-  for (std::size_t i = 0; i < categories.size(); ++i) {
-    const auto& [category, title] = categories[i];
-    const LoadedData data = MetricsTable::make(scenario, category, window - 1);
+  const Heading heading =
+      headingOf(*scenario, windows, StoredRun::latest(scenario, project.path()));
+  if (heading.stale) {
+    console.err << "kova metrics: warning: the project's inputs were saved after the stored run of "
+                << heading.run << "; run the scenario again for results that answer to them\n";
+  }
+  nlohmann::ordered_json json = headingJson(heading);
+  if (format != MetricsTable::Format::json) printHeading(heading, format, console.out);
+  for (std::size_t i = 0; i < selection.categories.size(); ++i) {
+    const auto& [category, title] = selection.categories[i];
+    const LoadedData data = measured(scenario, category, windows, selection.withDrains);
     if (format == MetricsTable::Format::table) {
       console.out << (i == 0 ? "" : "\n");
       MetricsTable::printTable(data, title, console.out);

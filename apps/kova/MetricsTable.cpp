@@ -1,12 +1,15 @@
 #include "MetricsTable.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iomanip>
 #include <sstream>
 
 #include "UsageError.h"
 #include "core/ElementSets.h"
+#include "core/NetworkUtils.h"
 #include "core/Scenario.h"
+#include "reports/CellDataFactoryByEnumType.h"
 #include "reports/LoadedDataProducerOfSimulationMetrics.h"
 #include "reports/ReportFormat.h"
 #include "reports/SimulationMetricsAbstractFactory.h"
@@ -41,6 +44,71 @@ std::string csvField(const std::string& text) {
   return quoted + "\"";
 }
 
+using T = SimulationMetricsTypeDefinition;
+
+std::string headingOf(T kind) {
+  const auto metric = SimulationMetricsAbstractFactory::make(
+                          ElementGroup::ElementCategoriesEnum::reservoir)
+                          ->makeMetric(*SimulationMetricsEnumFactoryByType::make(kind));
+  return metric->getName() + " " + metric->getUnit();
+}
+
+bool hasTarget(const Element& reservoir, unsigned int window) {
+  if (window >= reservoir.getOutputSeries().size()) return false;
+  for (const auto& serie : reservoir.getVectorOfSeries(window)) {
+    if (serie->getType() == SerieType::targetVolume && !serie->isEmpty()) return true;
+  }
+  return false;
+}
+
+// Whether the reservoir or a reservoir below it along enabled links has a target in the window.
+bool someTargetAtOrBelow(const std::shared_ptr<Element>& reservoir, unsigned int window) {
+  if (hasTarget(*reservoir, window)) return true;
+  const auto node = std::static_pointer_cast<Node>(reservoir);
+  for (const auto& below : NetworkUtils::getAllDownstreamNodes(node, ElementSets::reservoir(), true)) {
+    if (hasTarget(*below, window)) return true;
+  }
+  return false;
+}
+
+void emptyColumn(LoadedData::Row& row, const LoadedData& data, const std::string& heading) {
+  const auto& columns = data.getColumns();
+  for (std::size_t column = 1; column < columns.size(); ++column) {
+    if (columns[column].name == heading) row[column]->setNumber(Serie::kEmptyValue);
+  }
+}
+
+// Empties, in the reservoirs' table, the target figures that would only say "no target".
+void emptyTargetMetricsWithoutTarget(const LoadedData& data,
+                                     const std::vector<std::shared_ptr<Element>>& reservoirs,
+                                     unsigned int window) {
+  for (std::size_t i = 0; i < reservoirs.size(); ++i) {
+    auto row = data.getRows()[i];
+    if (!hasTarget(*reservoirs[i], window)) {
+      emptyColumn(row, data, headingOf(T::frequencyUnderTargetVolumeInPercentage));
+      emptyColumn(row, data, headingOf(T::maxTimeUnderTargetVolumeInMonths));
+    }
+    if (!someTargetAtOrBelow(reservoirs[i], window)) {
+      emptyColumn(row, data, headingOf(T::reliabilityToReservoirs));
+      emptyColumn(row, data, headingOf(T::reliabilityToReservoirsAndDemands));
+    }
+  }
+}
+
+// The q-th quantile (0 to 1) of sorted values, interpolating linearly between ranks.
+double quantile(const std::vector<double>& sorted, double q) {
+  const double position = q * static_cast<double>(sorted.size() - 1);
+  const auto below = static_cast<std::size_t>(std::floor(position));
+  const std::size_t above = std::min(below + 1, sorted.size() - 1);
+  return sorted[below] + (position - static_cast<double>(below)) * (sorted[above] - sorted[below]);
+}
+
+const std::vector<std::pair<std::string, double>>& statistics() {
+  static const std::vector<std::pair<std::string, double>> all = {
+      {"min", 0.0}, {"p10", 0.1}, {"p50", 0.5}, {"p90", 0.9}, {"max", 1.0}};
+  return all;
+}
+
 }  // namespace
 
 MetricsTable::Format MetricsTable::formatNamed(const std::string& name) {
@@ -51,20 +119,57 @@ MetricsTable::Format MetricsTable::formatNamed(const std::string& name) {
 }
 
 LoadedData MetricsTable::make(const std::shared_ptr<Scenario>& scenario,
-                              ElementGroup::ElementCategoriesEnum category, unsigned int window) {
+                              ElementGroup::ElementCategoriesEnum category, unsigned int window,
+                              bool withDrains) {
   const auto& types = ElementSetFactoryByCategory::make(category);
   std::vector<std::shared_ptr<Element>> elements;
   for (const auto& element : scenario->getSortedElements()) {
-    if (element->isEnabled() && types.count(element->getElementType().getType()) != 0) {
-      elements.push_back(element);
-    }
+    const ElementType type = element->getElementType().getType();
+    if (!element->isEnabled() || types.count(type) == 0) continue;
+    if (type == ElementType::drain && !withDrains) continue;
+    elements.push_back(element);
   }
   std::vector<std::shared_ptr<SimulationMetricsEnum>> metrics;
   for (const auto kind : SimulationMetricsAbstractFactory::make(category)->kinds()) {
     metrics.push_back(SimulationMetricsEnumFactoryByType::make(kind));
   }
-  return LoadedDataProducerOfSimulationMetrics::getLoadedDataOfSimulationMetrics(
+  const LoadedData data = LoadedDataProducerOfSimulationMetrics::getLoadedDataOfSimulationMetrics(
       category, elements, metrics, scenario, window);
+  if (category == ElementGroup::ElementCategoriesEnum::reservoir) {
+    emptyTargetMetricsWithoutTarget(data, elements, window);
+  }
+  return data;
+}
+
+LoadedData MetricsTable::summary(const std::vector<LoadedData>& windows) {
+  LoadedData result;
+  if (windows.empty()) return result;
+  const LoadedData& first = windows.front();
+  const auto& columns = first.getColumns();
+  result.addColumn(columns[0]);
+  for (std::size_t column = 1; column < columns.size(); ++column) {
+    for (const auto& [name, q] : statistics()) {
+      result.addColumn({TypeOfData::doubleType, columns[column].name + " " + name});
+    }
+  }
+  for (std::size_t row = 0; row < first.getRows().size(); ++row) {
+    LoadedData::Row cells = {first.getRows()[row][0]};
+    for (std::size_t column = 1; column < columns.size(); ++column) {
+      std::vector<double> values;
+      for (const auto& window : windows) {
+        const auto& cell = window.getRows()[row][column];
+        if (!cell->isEmpty()) values.push_back(cell->getNumber());
+      }
+      std::sort(values.begin(), values.end());
+      for (const auto& statistic : statistics()) {
+        auto cell = CellDataFactoryByEnumType::make(TypeOfData::doubleType);
+        if (!values.empty()) cell->setNumber(quantile(values, statistic.second));
+        cells.push_back(cell);
+      }
+    }
+    result.addRow(cells);
+  }
+  return result;
 }
 
 void MetricsTable::printTable(const LoadedData& data, const std::string& title, std::ostream& out) {

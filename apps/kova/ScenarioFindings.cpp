@@ -3,6 +3,12 @@
 #include "checks/SceneryCheck.h"
 #include "scenario/PriorityScenario.h"
 
+std::string ScenarioFindings::lineOf(const CheckCompleteness::ErrorStruct& finding) {
+  const std::string& message = finding.message;
+  const bool opensPlace = !message.empty() && message.back() == ':';
+  return message + (opensPlace ? " " : ": ") + finding.elementName;
+}
+
 std::size_t ScenarioFindings::checkAndPrint(const std::shared_ptr<Scenario>& scenario,
                                             std::ostream& out) {
   scenario->executeSceneryCheck();
@@ -13,7 +19,7 @@ std::size_t ScenarioFindings::printLast(const Scenario& scenario, std::ostream& 
   std::size_t printed = 0;
   if (const auto& check = scenario.getSceneryCheck()) {
     for (const auto& finding : check->getAllErrors()) {
-      out << finding.elementName << ": " << finding.message << '\n';
+      out << lineOf(finding) << '\n';
       ++printed;
     }
   }

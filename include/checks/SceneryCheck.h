@@ -9,8 +9,9 @@
 
 class Scenario;
 
-// The validation of a whole scenario before it runs: the scenario-wide checks, then one check
-// per enabled element. Disabled elements are not checked.
+// The validation of a whole scenario before it runs: the scenario-wide checks (window size, loops,
+// at least one enabled element), then one check per enabled element. Disabled elements are not
+// checked.
 class SceneryCheck : public CheckCompleteness {
  public:
   explicit SceneryCheck(std::weak_ptr<Scenario> scenario) : scenario(std::move(scenario)) {}
@@ -41,6 +42,8 @@ class SceneryCheck : public CheckCompleteness {
  private:
   void intervalPeriodLessThanWindowSize();
   void checkLoop();
+  // A scenario with no enabled element has nothing to run.
+  void checkHasEnabledElements();
 
   std::weak_ptr<Scenario> scenario;
   std::map<unsigned int, std::shared_ptr<ElementCheck>> elementChecks;

@@ -9,7 +9,7 @@
 // The base of the metrics of a reservoir. Some read the reservoir's own results: "Volume final"
 // against the minimum volume, or against the target volume, "Volume meta" times the maximum
 // volume. The others judge the system below it: the consumer demands (drains aside) and the
-// reservoirs reached going down enabled links, the reservoir itself not counted.
+// reservoirs reached going down enabled links, the reservoir itself among them.
 class ReservoirSimulationMetric : public SimulationMetric {
  protected:
   using SimulationMetric::SimulationMetric;
@@ -19,21 +19,21 @@ class ReservoirSimulationMetric : public SimulationMetric {
   // The value over the window, or -999.0 when it has none.
   virtual double computeOn(const std::shared_ptr<Reservoir>& reservoir, const Run& run) const = 0;
 
-  // Whether each period ended below the minimum volume.
-  static std::vector<bool> belowMinimum(const Reservoir& reservoir, const Run& run);
+  // Whether each period ended at or below the minimum volume (within the tolerance).
+  static std::vector<bool> emptied(const Reservoir& reservoir, const Run& run);
   // Whether each period ended below the target volume.
   static std::vector<bool> belowTarget(const Reservoir& reservoir, const Run& run);
   // Whether some consumer demand downstream failed in each period.
   static std::vector<bool> downstreamFailures(const std::shared_ptr<Reservoir>& reservoir,
                                               const Run& run);
-  // Whether some reservoir downstream ended each period below its target volume.
+  // Whether the reservoir or some reservoir downstream ended each period below its target volume.
   static std::vector<bool> downstreamBelowTarget(const std::shared_ptr<Reservoir>& reservoir,
                                                  const Run& run);
   // The periods not flagged, as a percentage of the periods.
   static double reliability(const std::vector<bool>& badPeriods);
 };
 
-// The periods ending below the minimum volume, as a percentage of the periods.
+// The periods ending at or below the minimum volume, as a percentage of the periods.
 class EmptyingFrequencyMetric : public ReservoirSimulationMetric {
  public:
   EmptyingFrequencyMetric()
@@ -56,7 +56,7 @@ class FrequencyUnderTargetVolumeSimulationMetric : public ReservoirSimulationMet
   double computeOn(const std::shared_ptr<Reservoir>& reservoir, const Run& run) const override;
 };
 
-// The longest stretch of consecutive periods ending below the minimum volume.
+// The longest stretch of consecutive periods ending at or below the minimum volume.
 class MaxTimeOfEmptyingSimulationMetric : public ReservoirSimulationMetric {
  public:
   MaxTimeOfEmptyingSimulationMetric()

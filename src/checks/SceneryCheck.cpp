@@ -1,5 +1,6 @@
 #include "checks/SceneryCheck.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "checks/ElementCheckFactory.h"
@@ -10,6 +11,7 @@ void SceneryCheck::check() {
   clean();
   intervalPeriodLessThanWindowSize();
   checkLoop();
+  checkHasEnabledElements();
   runScenarioChecks();
   const auto owner = getScenario();
   for (const auto& element : owner->getElements()) {
@@ -69,4 +71,12 @@ void SceneryCheck::intervalPeriodLessThanWindowSize() {
 
 void SceneryCheck::checkLoop() {
   if (getScenario()->hasLoop()) addError(getScenario()->getName(), "Existe um loop na rede");
+}
+
+void SceneryCheck::checkHasEnabledElements() {
+  const auto& elements = getScenario()->getElements();
+  const bool any = std::any_of(elements.begin(), elements.end(),
+                               [](const auto& element) { return element->isEnabled(); });
+  // A run of nothing would "succeed" and store nothing.
+  if (!any) addError(getScenario()->getName(), "Cenário sem elementos habilitados");
 }

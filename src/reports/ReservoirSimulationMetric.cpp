@@ -26,9 +26,17 @@ void orInto(std::vector<bool>& flags, const std::vector<bool>& more) {
   for (std::size_t t = 0; t < flags.size(); ++t) flags[t] = flags[t] || more[t];
 }
 
+// The nodes of those types reached from the reservoir along enabled links, the reservoir itself
+// first when it is of one of them: its own target counts among those it answers for, or the
+// last reservoir of a river would look reliable whatever its storage.
 std::vector<std::shared_ptr<Node>> downstream(const std::shared_ptr<Reservoir>& reservoir,
                                               const std::set<ElementType>& types) {
-  return NetworkUtils::getAllDownstreamNodes(reservoir, types, true);
+  std::vector<std::shared_ptr<Node>> nodes;
+  if (types.count(reservoir->getType()) != 0) nodes.push_back(reservoir);
+  for (auto& node : NetworkUtils::getAllDownstreamNodes(reservoir, types, true)) {
+    nodes.push_back(std::move(node));
+  }
+  return nodes;
 }
 
 }  // namespace
@@ -42,13 +50,13 @@ double ReservoirSimulationMetric::compute(const std::shared_ptr<Element>& elemen
   return computeOn(std::static_pointer_cast<Reservoir>(element), run);
 }
 
-std::vector<bool> ReservoirSimulationMetric::belowMinimum(const Reservoir& reservoir,
-                                                          const Run& run) {
+std::vector<bool> ReservoirSimulationMetric::emptied(const Reservoir& reservoir, const Run& run) {
   const double minimum = reservoir.getReservoirInfo().minVol;
   std::vector<bool> result;
   result.reserve(run.size());
+  // The operation never takes a reservoir below its minimum: one that sits on it is empty.
   for (double volume : run.read(reservoir, SerieType::finalVolume)) {
-    result.push_back(below(volume, minimum));
+    result.push_back(!above(volume, minimum));
   }
   return result;
 }
@@ -92,7 +100,7 @@ double ReservoirSimulationMetric::reliability(const std::vector<bool>& badPeriod
 
 double EmptyingFrequencyMetric::computeOn(const std::shared_ptr<Reservoir>& reservoir,
                                           const Run& run) const {
-  return percentage(static_cast<double>(count(belowMinimum(*reservoir, run))),
+  return percentage(static_cast<double>(count(emptied(*reservoir, run))),
                     static_cast<double>(run.size()));
 }
 
@@ -104,7 +112,7 @@ double FrequencyUnderTargetVolumeSimulationMetric::computeOn(
 
 double MaxTimeOfEmptyingSimulationMetric::computeOn(const std::shared_ptr<Reservoir>& reservoir,
                                                     const Run& run) const {
-  return static_cast<double>(longestRun(belowMinimum(*reservoir, run)));
+  return static_cast<double>(longestRun(emptied(*reservoir, run)));
 }
 
 double MaxTimeUnderTargetVolumeSimulationMetric::computeOn(

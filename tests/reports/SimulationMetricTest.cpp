@@ -201,10 +201,11 @@ TEST(SimulationMetrics, ComputedByHandOverFourMonths) {
       {T::maxTimeUnderTargetVolumeInMonths, "R1", 3},  // a count, although January-March runs
       {T::spillFrequency, "R1", 25},
       {T::volumeAccumulatedSpill, "R1", 2.5},
-      // Below R1, some consumer failed in January, March and April (D1), and R2 is below its
-      // target in February: one good month for demands, three for reservoirs, none for both.
+      // Below R1, some consumer failed in January, March and April (D1); R1 itself is below its
+      // target in January to March and R2 in February: one good month for demands (February),
+      // one for reservoirs (April), none for both.
       {T::reliabilityToDemands, "R1", 25},
-      {T::reliabilityToReservoirs, "R1", 75},
+      {T::reliabilityToReservoirs, "R1", 25},
       {T::reliabilityToReservoirsAndDemands, "R1", 0},
       // b = (T, F, T, T): one recovery (A = 1), two changes (B = 2), F = 3 of n = 4.
       {T::resilienceOfType1, "R1", (1.0 / 2) / (3.0 / 4)},
@@ -213,7 +214,9 @@ TEST(SimulationMetrics, ComputedByHandOverFourMonths) {
       {T::vulnerability, "R1", 50},
       // Below R2 only D2 (never failing) and the drain, which is no consumer.
       {T::reliabilityToDemands, "R2", 100},
-      {T::reliabilityToReservoirs, "R2", 100},
+      // R2, the last reservoir, answers for its own target: below it in February only.
+      {T::reliabilityToReservoirs, "R2", 75},
+      {T::reliabilityToReservoirsAndDemands, "R2", 75},
       {T::resilienceOfType1, "R2", kEmpty},
       {T::resilienceOfType2, "R2", kEmpty},
       {T::vulnerability, "R2", kEmpty},
@@ -226,6 +229,31 @@ TEST(SimulationMetrics, ComputedByHandOverFourMonths) {
     SCOPED_TRACE(metricOf(row.type)->getName() + " of " + row.element);
     EXPECT_NEAR(m.value(row.type, elements.at(row.element)), row.value, 1e-9);
   }
+}
+
+TEST(SimulationMetrics, AReservoirSittingOnItsMinimumIsEmptied) {
+  FourMonths m;
+  // R1's minimum is 10: January on it, February below, March within 1e-6 above it, April above.
+  m.put(m.r1, SerieType::finalVolume, {10, 8, 10 + 5e-7, 30});
+  EXPECT_EQ(m.value(T::emptyingFrequency, m.r1), 75.0);  // 3 of 4 months
+  EXPECT_EQ(m.value(T::maxTimeOfEmptying, m.r1), 3.0);   // January to March
+  // R2 (minimum 12) exactly on its minimum all along: emptied throughout.
+  m.put(m.r2, SerieType::finalVolume, {12, 12, 12, 12});
+  EXPECT_EQ(m.value(T::emptyingFrequency, m.r2), 100.0);
+  EXPECT_EQ(m.value(T::maxTimeOfEmptying, m.r2), 4.0);
+}
+
+TEST(SimulationMetrics, ADisabledLinkHidesWhatIsBelowIt) {
+  FourMonths m;
+  // With the link R1 -> R2 off, R1 answers only for itself and D1: R2's February no longer
+  // counts, and R1's own target (below January to March) leaves April good.
+  for (const auto& link : m.r1->getDownstreamLinks()) {
+    if (link->getDownstream() == m.r2) link->setEnabled(false);
+  }
+  EXPECT_EQ(m.value(T::reliabilityToReservoirs, m.r1), 25.0);
+  // With R1 back above its targets, only R2 below it could fail it, and it is cut off.
+  m.put(m.r1, SerieType::finalVolume, {90, 90, 90, 90});
+  EXPECT_EQ(m.value(T::reliabilityToReservoirs, m.r1), 100.0);
 }
 
 TEST(SimulationMetrics, ResilienceOfAllAndAlternatingFailures) {

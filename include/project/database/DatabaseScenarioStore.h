@@ -3,7 +3,7 @@
 #include "scenario/ScenarioStore.h"
 
 // The project database as the scenario manager's store: the open SQLStorage, scenario deletion
-// through DatabaseDelete and results through DatabaseUpdate, one transaction per run.
+// through DatabaseDelete and results through one ResultSeriesWriter, one transaction per run.
 class DatabaseScenarioStore : public ScenarioStore {
  public:
   SQLite::Database& openDatabase() override;

@@ -22,7 +22,8 @@ class DatabaseUpdate {
   // unit or for its (type, unit) pair.
   static bool updateInputSerie(SQLite::Database& storage, int64_t elementId, const Serie& serie);
   // Stores serie as the result of element elementId in window windowId of the run told by
-  // timeStampHash; false as updateInputSerie.
+  // timeStampHash; false as updateInputSerie. A run stores all its series through one
+  // ResultSeriesWriter instead (DatabaseScenarioStore::storeResults).
   static bool updateOutputSerie(SQLite::Database& storage, int64_t elementId, const Serie& serie,
                                 unsigned int windowId, const std::string& timeStamp,
                                 const std::string& timeStampHash);

@@ -3,6 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <SQLiteCpp/Savepoint.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "core/Reservoir.h"
 #include "project/database/DatabaseException.h"
 #include "project/database/ReservoirCAVSaver.h"
+#include "project/database/ResultSeriesWriter.h"
 #include "project/database/SerieSaver.h"
 #include "project/database/UserLiteSaver.h"
 
@@ -19,6 +21,23 @@ namespace {
 
 std::vector<std::shared_ptr<Serie>> only(const Serie& serie) {
   return {std::make_shared<Serie>(serie)};
+}
+
+// Runs a change inside a savepoint, released whatever happens. SQLite::Savepoint rolls back on
+// failure but leaves the savepoint open, and an outermost savepoint left open is a transaction
+// left open, which refuses the next BEGIN of the connection.
+bool inSavepoint(SQLite::Database& storage, const std::string& name,
+                 const std::function<bool()>& change) {
+  storage.exec("SAVEPOINT " + name);
+  try {
+    const bool done = change();
+    storage.exec("RELEASE " + name);
+    return done;
+  } catch (...) {
+    storage.exec("ROLLBACK TO " + name);
+    storage.exec("RELEASE " + name);
+    throw;
+  }
 }
 
 }  // namespace
@@ -49,16 +68,16 @@ void DatabaseUpdate::retire(SQLite::Database& storage, const std::string& table,
 bool DatabaseUpdate::updateInputSerie(SQLite::Database& storage, int64_t elementId,
                                       const Serie& serie) {
   return DatabaseException::guard([&] {
-    SQLite::Savepoint savepoint(storage, "update_input");
-    const int64_t type = serieTypeRow(storage, serie);
-    if (type == 0) return false;
-    retire(storage, "SerieInput", "type = ? AND elementID = ?",
-           ConfigurationHeader::isKeepInputSerieHistorical(), type, elementId, -1);
-    const auto ids = SerieTypeIds{{SerieTypeKey::of(serie), type}};
-    SerieSaver::saveInputSeries(storage, only(serie), ids, Calendar::getTimeStamp(), elementId,
-                                UserLiteSaver::defaultUserId(storage));
-    savepoint.release();
-    return true;
+    return inSavepoint(storage, "update_input", [&] {
+      const int64_t type = serieTypeRow(storage, serie);
+      if (type == 0) return false;
+      retire(storage, "SerieInput", "type = ? AND elementID = ?",
+             ConfigurationHeader::isKeepInputSerieHistorical(), type, elementId, -1);
+      const auto ids = SerieTypeIds{{SerieTypeKey::of(serie), type}};
+      SerieSaver::saveInputSeries(storage, only(serie), ids, Calendar::getTimeStamp(), elementId,
+                                  UserLiteSaver::defaultUserId(storage));
+      return true;
+    });
   });
 }
 
@@ -67,16 +86,10 @@ bool DatabaseUpdate::updateOutputSerie(SQLite::Database& storage, int64_t elemen
                                        const std::string& timeStamp,
                                        const std::string& timeStampHash) {
   return DatabaseException::guard([&] {
-    SQLite::Savepoint savepoint(storage, "update_output");
-    const int64_t type = serieTypeRow(storage, serie);
-    if (type == 0) return false;
-    retire(storage, "SerieOutput", "type = ? AND elementID = ? AND windowid = ?",
-           !ConfigurationHeader::isSaveOnlyOneResults(), type, elementId, windowId);
-    const auto ids = SerieTypeIds{{SerieTypeKey::of(serie), type}};
-    SerieSaver::saveOuputSeries(storage, only(serie), ids, timeStamp, timeStampHash, elementId,
-                                UserLiteSaver::defaultUserId(storage), windowId);
-    savepoint.release();
-    return true;
+    return inSavepoint(storage, "update_output", [&] {
+      ResultSeriesWriter writer(storage, timeStamp, timeStampHash);
+      return writer.write(elementId, serie, windowId);
+    });
   });
 }
 

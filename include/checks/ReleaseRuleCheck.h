@@ -66,3 +66,27 @@ KOVA_RELEASE_RULE_CHECK(OptPeriodicReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(OptSerieReleaseRuleCheck);
 
 #undef KOVA_RELEASE_RULE_CHECK
+
+// The optimisable twins of the rules by storage and by hydrological state are their simulation
+// rules with marked tables: their working tables are checked as the simulation rules' are.
+#define KOVA_OPT_RELEASE_RULE_CHECK(Name, Simulation) \
+  class Name : public Simulation {                    \
+   public:                                            \
+    using Simulation::Simulation;                     \
+  }
+
+KOVA_OPT_RELEASE_RULE_CHECK(OptVolDepOneStaticReleaseRuleCheck, VolDepOneStaticReleaseRuleCheck);
+KOVA_OPT_RELEASE_RULE_CHECK(OptVolDepOnePeriodicReleaseRuleCheck,
+                            VolDepOnePeriodicReleaseRuleCheck);
+KOVA_OPT_RELEASE_RULE_CHECK(OptVolDepTwoStaticReleaseRuleCheck, VolDepTwoStaticReleaseRuleCheck);
+KOVA_OPT_RELEASE_RULE_CHECK(OptVolDepTwoPeriodicReleaseRuleCheck,
+                            VolDepTwoPeriodicReleaseRuleCheck);
+
+#undef KOVA_OPT_RELEASE_RULE_CHECK
+
+// And the maximum release the optimiser may choose must not be negative.
+class OptHydrologicalStateReleaseRuleCheck : public HydrologicalStateReleaseRuleCheck {
+ public:
+  using HydrologicalStateReleaseRuleCheck::HydrologicalStateReleaseRuleCheck;
+  std::vector<Lambda> getLambdas() const override;
+};

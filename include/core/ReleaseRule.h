@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "common/Date.h"
@@ -44,6 +45,9 @@ class ReleaseRule {
 
   // A new rule of this rule's own class, with nothing set: the start of copy().
   virtual std::shared_ptr<ReleaseRule> makeBlank() const = 0;
+  // What the class names in failure texts begin with: "Opt" for the optimisable twins, which
+  // share their simulation rule's checks.
+  virtual std::string textPrefix() const { return ""; }
 
   // The volume of reservoir at the start of the period of date in the current window, as a
   // percentage of the reservoir's maximum volume (%). reservoir must be a Reservoir.

@@ -92,3 +92,16 @@ class PumpingCostFunction : public ObjectiveFunction {
  protected:
   double valueOf(const Element& element, unsigned int index) const override;
 };
+
+// How far the guarantees that the rules by hydrological state achieved lie from those they
+// require: for each enabled reservoir of the current scenario whose rule is an optimisable rule
+// by hydrological state, the sum over its states of (required - achieved)² / required.
+class HedgingCurveFunction : public ObjectiveFunction {
+ public:
+  using ObjectiveFunction::ObjectiveFunction;
+  const ObjectiveFunctionTypeEnum& getType() const override;
+  Enum<Unit> getUnit() const override;
+
+ protected:
+  double valueOf(const Element& element, unsigned int index) const override;
+};

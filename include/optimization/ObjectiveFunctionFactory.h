@@ -22,4 +22,6 @@ class ObjectiveFunctionFactory {
                                                             const Elements& elements);
   static std::shared_ptr<ObjectiveFunction> makePumpingCost(bool minimize,
                                                             const Elements& elements);
+  static std::shared_ptr<ObjectiveFunction> makeHedgingCurve(bool minimize,
+                                                             const Elements& elements);
 };

@@ -7,7 +7,7 @@
 
 // The optimisable twin of the constant rule: when toOpt is set, the optimiser chooses the release
 // between lowerRelease and upperRelease (one decision variable).
-class OptConstReleaseRule : public OptReleaseRule {
+class OptConstReleaseRule : public ReleaseRule, public OptReleaseRule {
  public:
   Enum<ReleaseRuleType> getType() const override;
   // The release, m³/s, whatever the date.

@@ -5,7 +5,7 @@
 #include "rules/OptReleaseRule.h"
 
 // The optimisable twin of the rule that releases nothing: it takes no decision variable.
-class OptNoneReleaseRule : public OptReleaseRule {
+class OptNoneReleaseRule : public ReleaseRule, public OptReleaseRule {
  public:
   Enum<ReleaseRuleType> getType() const override;
   // Always 0.0 m³/s.

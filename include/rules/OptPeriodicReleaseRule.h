@@ -8,7 +8,7 @@
 
 // The optimisable twin of the periodic rule: the optimiser chooses the release of each month
 // whose toOpt flag is set, between lowerRelease and upperRelease; the other months keep theirs.
-class OptPeriodicReleaseRule : public OptReleaseRule {
+class OptPeriodicReleaseRule : public ReleaseRule, public OptReleaseRule {
  public:
   Enum<ReleaseRuleType> getType() const override;
   // The release of the month of date, m³/s.

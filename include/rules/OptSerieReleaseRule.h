@@ -7,7 +7,7 @@
 
 // The optimisable twin of the rule by series: the optimiser chooses the release of every date on
 // which the flag series holds 1.0, between 0 and maxRelease; other dates keep the release series'.
-class OptSerieReleaseRule : public OptReleaseRule {
+class OptSerieReleaseRule : public ReleaseRule, public OptReleaseRule {
  public:
   // Starts with empty release and flag series over the default interval.
   OptSerieReleaseRule();

@@ -27,4 +27,9 @@ class ReleaseRuleFactory {
   static std::shared_ptr<ReleaseRule> makeOptConstReleaseRule();
   static std::shared_ptr<ReleaseRule> makeOptPeriodicReleaseRule();
   static std::shared_ptr<ReleaseRule> makeOptSerieReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeOptHydrologicalStateReleaseRule();
+  static std::shared_ptr<ReleaseRule> makeOptVolDepOneStaticRelease();
+  static std::shared_ptr<ReleaseRule> makeOptVolDepOnePeriodicRelease();
+  static std::shared_ptr<ReleaseRule> makeOptVolDepTwoStaticRelease();
+  static std::shared_ptr<ReleaseRule> makeOptVolDepTwoPeriodicRelease();
 };

@@ -15,6 +15,8 @@ class VolDepOnePeriodicReleaseRule : public VolDepOneReleaseRule {
   void setVectorOfVolDepOneReleaseStruct(const std::vector<VolDepOneReleaseStruct>& rows) override;
 
  protected:
+  // Throws the text of the row size this form refuses.
+  void checkReleasesSize(const VolDepOneReleaseStruct& row) const;
   std::shared_ptr<ReleaseRule> makeBlank() const override {
     return std::make_shared<VolDepOnePeriodicReleaseRule>();
   }

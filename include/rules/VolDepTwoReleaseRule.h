@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "core/ReleaseRule.h"
 #include "rules/VolDepTwoReleaseStruct.h"
@@ -51,6 +52,10 @@ class VolDepTwoReleaseRule : public ReleaseRule {
   void setReservoirDependencyId2(unsigned int id) { reservoirDependencyId2 = id; }
 
  protected:
+  // The class names that start the failure texts of the dependencies and of the table; the
+  // optimisable twin names itself.
+  virtual std::string ownerOfDependencyTexts() const { return "VolDepOneReleaseRule"; }
+  virtual std::string ownerOfTableTexts() const { return "VolDepTwoStaticReleaseRule"; }
   // The release of row i (first dependency) and column j (second dependency) at date, m³/s.
   virtual double doGetRelease(const Date& date, unsigned int i, unsigned int j) const = 0;
 

@@ -10,6 +10,7 @@
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/OptConstReleaseRule.h"
+#include "rules/OptHydrologicalStateReleaseRule.h"
 #include "rules/OptPeriodicReleaseRule.h"
 #include "rules/OptSerieReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
@@ -172,6 +173,16 @@ std::vector<ReleaseRuleCheck::Lambda> SerieReleaseRuleCheck::getLambdas() const 
 
 std::vector<ReleaseRuleCheck::Lambda> OptNoneReleaseRuleCheck::getLambdas() const { return {}; }
 
+std::vector<ReleaseRuleCheck::Lambda> OptHydrologicalStateReleaseRuleCheck::getLambdas() const {
+  auto lambdas = HydrologicalStateReleaseRuleCheck::getLambdas();
+  lambdas.push_back([](ReleaseRuleCheck* check) {
+    if (negative(check->rule<OptHydrologicalStateReleaseRule>().getMaxRelease())) {
+      check->report(kNegativeMaximum);
+    }
+  });
+  return lambdas;
+}
+
 std::vector<ReleaseRuleCheck::Lambda> OptConstReleaseRuleCheck::getLambdas() const {
   static const std::vector<Lambda> table = {checkConstRelease<OptConstReleaseRule>,
                                             checkBounds<OptConstReleaseRule>};
@@ -277,7 +288,8 @@ std::shared_ptr<ReleaseRuleCheck> ReleaseRuleCheckFactory::make(std::weak_ptr<Sc
       std::weak_ptr<Scenario>, std::shared_ptr<Element>, ReleaseRuleCheck::Errors&)>;
   using R = ReleaseRuleType;
   static const std::map<ReleaseRuleType, Maker> makers = {
-      {R::none, [](auto s, auto e, auto& x) { return std::make_shared<NoneReleaseRuleCheck>(s, e, x); }},
+      {R::none,
+       [](auto s, auto e, auto& x) { return std::make_shared<NoneReleaseRuleCheck>(s, e, x); }},
       {R::constant,
        [](auto s, auto e, auto& x) { return std::make_shared<ConstReleaseRuleCheck>(s, e, x); }},
       {R::periodic,
@@ -314,6 +326,26 @@ std::shared_ptr<ReleaseRuleCheck> ReleaseRuleCheckFactory::make(std::weak_ptr<Sc
        }},
       {R::optSerie,
        [](auto s, auto e, auto& x) { return std::make_shared<OptSerieReleaseRuleCheck>(s, e, x); }},
+      {R::optHydrologicalState,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<OptHydrologicalStateReleaseRuleCheck>(s, e, x);
+       }},
+      {R::optStaticVolumeDependence1,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<OptVolDepOneStaticReleaseRuleCheck>(s, e, x);
+       }},
+      {R::optPeriodicVolumeDependence1,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<OptVolDepOnePeriodicReleaseRuleCheck>(s, e, x);
+       }},
+      {R::optStaticVolumeDependence2,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<OptVolDepTwoStaticReleaseRuleCheck>(s, e, x);
+       }},
+      {R::optPeriodicVolumeDependence2,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<OptVolDepTwoPeriodicReleaseRuleCheck>(s, e, x);
+       }},
   };
   const auto rule =
       Scenario::getSettings<ReservoirRuleSettings>(element, scenario.lock()->getSettingsManager())

@@ -2,10 +2,14 @@
 
 #include <utility>
 
+#include "common/NumericalUtils.h"
 #include "common/PeriodWalker.h"
 #include "common/SerieStatistics.h"
 #include "core/Link.h"
+#include "core/ReservoirRuleSettings.h"
 #include "hydrology/HydrologicalBalance.h"
+#include "rules/OptHydrologicalStateReleaseRule.h"
+#include "scenario/ScenarioManager.h"
 #include "vocabulary/Vocabulary.h"
 
 ObjectiveFunction::ObjectiveFunction(bool minimize, Elements elements)
@@ -88,4 +92,29 @@ double PumpingCostFunction::valueOf(const Element& element, unsigned int index) 
   const auto& link = static_cast<const Link&>(element);
   if (!link.getLinkAddon() || link.getLinkAddon()->getType() != LinkAddonType::pumping) return 0.0;
   return sumOf(element, SerieType::pumpingCost, index);
+}
+
+const ObjectiveFunctionTypeEnum& HedgingCurveFunction::getType() const {
+  return ObjectiveFunctionTypeEnum::of(ObjectiveFunctionType::hedgingCurve);
+}
+
+Enum<Unit> HedgingCurveFunction::getUnit() const { return Vocabulary::of(Unit::dimensionless); }
+
+double HedgingCurveFunction::valueOf(const Element& element, unsigned int) const {
+  const auto& scenario = ScenarioManager::getInstance().getCurrentScenario();
+  if (!scenario || !scenario->getSettingsManager().contains(element.getId())) return 0.0;
+  const auto settings = std::dynamic_pointer_cast<ReservoirRuleSettings>(
+      scenario->getSettingsManager().getSettings(element.getId()));
+  const auto rule =
+      settings ? std::dynamic_pointer_cast<OptHydrologicalStateReleaseRule>(settings->getRule())
+               : nullptr;
+  if (!rule) return 0.0;
+  const std::vector<double> achieved = rule->getGuaranteeResults();
+  const std::vector<double>& required = rule->getRequiredGuarantees();
+  double distance = 0.0;
+  for (std::size_t i = 0; i < achieved.size() && i < required.size(); ++i) {
+    const double gap = NumericalUtils::subtractDoubles(required[i], achieved[i], 1e-6);
+    distance += gap * gap / required[i];
+  }
+  return distance;
 }

@@ -15,6 +15,7 @@ const std::map<ObjectiveFunctionType, Maker>& makers() {
       {T::shortageVolume, ObjectiveFunctionFactory::makeShortageVolume},
       {T::spillVolume, ObjectiveFunctionFactory::makeSpillVolume},
       {T::pumpingCost, ObjectiveFunctionFactory::makePumpingCost},
+      {T::hedgingCurve, ObjectiveFunctionFactory::makeHedgingCurve},
   };
   return table;
 }
@@ -54,4 +55,9 @@ std::shared_ptr<ObjectiveFunction> ObjectiveFunctionFactory::makeSpillVolume(
 std::shared_ptr<ObjectiveFunction> ObjectiveFunctionFactory::makePumpingCost(
     bool minimize, const Elements& elements) {
   return std::make_shared<PumpingCostFunction>(minimize, elements);
+}
+
+std::shared_ptr<ObjectiveFunction> ObjectiveFunctionFactory::makeHedgingCurve(
+    bool minimize, const Elements& elements) {
+  return std::make_shared<HedgingCurveFunction>(minimize, elements);
 }

@@ -64,11 +64,13 @@ void HydrologicalStateReleaseRule::setReservoirsOfSystem(const Elements& element
   for (const auto& element : elements) {
     if (!element) {
       throw std::invalid_argument(
+          textPrefix() +
           "HydrologicalStateReleaseRule::setReservoirsOfSystem(): There is some element with "
           "nullptr");
     }
     if (!isReservoir(element)) {
       throw std::invalid_argument(
+          textPrefix() +
           "HydrologicalStateReleaseRule::setReservoirsOfSystem(): There is some element that is "
           "not reservoir.");
     }
@@ -81,15 +83,18 @@ void HydrologicalStateReleaseRule::setStates(unsigned int states, const std::vec
                                              const std::vector<double>& zoneReleases) {
   if (zones.size() + 1 != states) {
     throw std::invalid_argument(
+        textPrefix() +
         "HydrologicalStateReleaseRule::setStates(): The size of proportionalZones must be "
         "numOfStates - 1");
   }
   if (zoneReleases.size() != states) {
     throw std::invalid_argument(
+        textPrefix() +
         "HydrologicalStateReleaseRule::setStates(): The size of releases must be numOfStates");
   }
   if (std::any_of(zoneReleases.begin(), zoneReleases.end(), [](double v) { return v < 0.0; })) {
     throw std::invalid_argument(
+        textPrefix() +
         "HydrologicalStateReleaseRule::setStates(): All values of releases must be positive");
   }
   numOfStates = states;

@@ -10,3 +10,10 @@ void OptReleaseRule::checkDecisionVarsSize(const std::vector<double>& values,
                                 "::setDecisionVars: Invalid size of values vector");
   }
 }
+
+void OptReleaseRule::checkMaxRelease(double value, const char* className) {
+  if (value < 0.0) {
+    throw std::invalid_argument(std::string(className) +
+                                "::setMaxRelease(): the maxRelease is a negative value");
+  }
+}

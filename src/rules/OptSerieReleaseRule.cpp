@@ -76,10 +76,7 @@ void OptSerieReleaseRule::setToOptSerie(const std::shared_ptr<Serie>& serie) {
 }
 
 void OptSerieReleaseRule::setMaxRelease(double value) {
-  if (value < 0.0) {
-    throw std::invalid_argument(
-        "OptSerieReleaseRule::setMaxRelease(): the maxRelease is a negative value");
-  }
+  checkMaxRelease(value, "OptSerieReleaseRule");
   maxRelease = value;
 }
 

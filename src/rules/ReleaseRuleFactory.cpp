@@ -7,9 +7,14 @@
 #include "rules/HydrologicalStateReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
 #include "rules/OptConstReleaseRule.h"
+#include "rules/OptHydrologicalStateReleaseRule.h"
 #include "rules/OptNoneReleaseRule.h"
 #include "rules/OptPeriodicReleaseRule.h"
 #include "rules/OptSerieReleaseRule.h"
+#include "rules/OptVolDepOnePeriodicReleaseRule.h"
+#include "rules/OptVolDepOneStaticReleaseRule.h"
+#include "rules/OptVolDepTwoPeriodicReleaseRule.h"
+#include "rules/OptVolDepTwoStaticReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "rules/VolDepOnePeriodicReleaseRule.h"
@@ -39,6 +44,11 @@ const std::map<ReleaseRuleType, Maker>& makersByType() {
       {R::optConstant, ReleaseRuleFactory::makeOptConstReleaseRule},
       {R::optPeriodic, ReleaseRuleFactory::makeOptPeriodicReleaseRule},
       {R::optSerie, ReleaseRuleFactory::makeOptSerieReleaseRule},
+      {R::optStaticVolumeDependence1, ReleaseRuleFactory::makeOptVolDepOneStaticRelease},
+      {R::optPeriodicVolumeDependence1, ReleaseRuleFactory::makeOptVolDepOnePeriodicRelease},
+      {R::optStaticVolumeDependence2, ReleaseRuleFactory::makeOptVolDepTwoStaticRelease},
+      {R::optPeriodicVolumeDependence2, ReleaseRuleFactory::makeOptVolDepTwoPeriodicRelease},
+      {R::optHydrologicalState, ReleaseRuleFactory::makeOptHydrologicalStateReleaseRule},
   };
   return table;
 }
@@ -123,4 +133,24 @@ std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptPeriodicReleaseRule() {
 
 std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptSerieReleaseRule() {
   return std::make_shared<OptSerieReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptHydrologicalStateReleaseRule() {
+  return std::make_shared<OptHydrologicalStateReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptVolDepOneStaticRelease() {
+  return std::make_shared<OptVolDepOneStaticReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptVolDepOnePeriodicRelease() {
+  return std::make_shared<OptVolDepOnePeriodicReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptVolDepTwoStaticRelease() {
+  return std::make_shared<OptVolDepTwoStaticReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptVolDepTwoPeriodicRelease() {
+  return std::make_shared<OptVolDepTwoPeriodicReleaseRule>();
 }

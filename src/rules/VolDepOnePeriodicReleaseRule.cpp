@@ -11,12 +11,17 @@ Enum<ReleaseRuleType> VolDepOnePeriodicReleaseRule::getType() const {
 
 void VolDepOnePeriodicReleaseRule::setVectorOfVolDepOneReleaseStruct(
     const std::vector<VolDepOneReleaseStruct>& rows) {
-  if (std::any_of(rows.begin(), rows.end(),
-                  [](const auto& row) { return row.releases.size() != 12; })) {
-    throw std::invalid_argument(
-        "VolDepOnePeriodicReleaseRule: the releases vector must be the size 12.");
-  }
+  for (const auto& row : rows) checkReleasesSize(row);
   VolDepOneReleaseRule::setVectorOfVolDepOneReleaseStruct(rows);
+}
+
+void VolDepOnePeriodicReleaseRule::checkReleasesSize(const VolDepOneReleaseStruct& row) const {
+  if (row.releases.size() != 12) {
+    throw std::invalid_argument(
+        textPrefix() +
+        "VolDepOnePeriodicReleaseRule: the releases vector must be the size "
+        "12.");
+  }
 }
 
 double VolDepOnePeriodicReleaseRule::doGetRelease(const Date& date, unsigned int row) const {

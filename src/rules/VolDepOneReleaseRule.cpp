@@ -38,16 +38,16 @@ std::shared_ptr<ReleaseRule> VolDepOneReleaseRule::copy() const {
 void VolDepOneReleaseRule::setVectorOfVolDepOneReleaseStruct(
     const std::vector<VolDepOneReleaseStruct>& rows) {
   if (std::any_of(rows.begin(), rows.end(), hasNegativeRelease)) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setVolumePeriodicReleaseStr(): All values of releases must be "
-        "positive");
+    throw std::invalid_argument(textPrefix() +
+                                "VolDepOneReleaseRule::setVolumePeriodicReleaseStr(): All values "
+                                "of releases must be positive");
   }
   for (std::size_t row = 1; row < rows.size(); ++row) {
     if (NumericalUtils::subtractDoubles(rows[row].percentage, rows[row - 1].percentage,
                                         kTolerance) < 0.0) {
-      throw std::invalid_argument(
-          "VolDepOneReleaseRule:setVolumePeriodicReleaseStr(): The volume percentage values must "
-          "be in ascending order.");
+      throw std::invalid_argument(textPrefix() +
+                                  "VolDepOneReleaseRule:setVolumePeriodicReleaseStr(): The volume "
+                                  "percentage values must be in ascending order.");
     }
   }
   vectorOfVolDepOneReleaseStruct = rows;
@@ -55,12 +55,14 @@ void VolDepOneReleaseRule::setVectorOfVolDepOneReleaseStruct(
 
 void VolDepOneReleaseRule::setReservoirDependency(const std::shared_ptr<Element>& reservoir) {
   if (!reservoir) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setReservoirDenpendency: the reservoir is nullptr");
+    throw std::invalid_argument(textPrefix() +
+                                "VolDepOneReleaseRule::setReservoirDenpendency: the reservoir is "
+                                "nullptr");
   }
   if (!isReservoir(reservoir)) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setReservoirDependency: The element is not a reservoir");
+    throw std::invalid_argument(textPrefix() +
+                                "VolDepOneReleaseRule::setReservoirDependency: The element is not "
+                                "a reservoir");
   }
   reservoirDependency = reservoir;
   reservoirDependencyId = reservoir->getId();

@@ -11,11 +11,16 @@ Enum<ReleaseRuleType> VolDepOneStaticReleaseRule::getType() const {
 
 void VolDepOneStaticReleaseRule::setVectorOfVolDepOneReleaseStruct(
     const std::vector<VolDepOneReleaseStruct>& rows) {
-  if (std::any_of(rows.begin(), rows.end(), [](const auto& row) { return row.releases.empty(); })) {
-    throw std::invalid_argument(
-        "VolDepOneStaticReleaseRule: the releases vector must not be empty.");
-  }
+  for (const auto& row : rows) checkReleasesSize(row);
   VolDepOneReleaseRule::setVectorOfVolDepOneReleaseStruct(rows);
+}
+
+void VolDepOneStaticReleaseRule::checkReleasesSize(const VolDepOneReleaseStruct& row) const {
+  if (row.releases.empty()) {
+    throw std::invalid_argument(textPrefix() +
+                                "VolDepOneStaticReleaseRule: the releases vector must not be "
+                                "empty.");
+  }
 }
 
 double VolDepOneStaticReleaseRule::doGetRelease(const Date&, unsigned int row) const {

@@ -11,7 +11,9 @@ Enum<ReleaseRuleType> VolDepTwoPeriodicReleaseRule::getType() const {
 void VolDepTwoPeriodicReleaseRule::setVolDepTwoReleaseStruct(const VolDepTwoReleaseStruct& table) {
   if (table.releases.size() != 12) {
     throw std::invalid_argument(
-        "VolDepTwoPeriodicReleaseRule: the releases vector must be the size 12.");
+        textPrefix() +
+        "VolDepTwoPeriodicReleaseRule: the releases vector must be the size "
+        "12.");
   }
   VolDepTwoReleaseRule::setVolDepTwoReleaseStruct(table);
 }

@@ -62,15 +62,14 @@ void VolDepTwoReleaseRule::setVolDepTwoReleaseStruct(const VolDepTwoReleaseStruc
   const auto& limits2 = table.volumePercentageD2;
   if (!std::is_sorted(limits1.begin(), limits1.end()) ||
       !std::is_sorted(limits2.begin(), limits2.end())) {
-    throw std::invalid_argument(
-        "VolDepTwoStaticReleaseRule:setVolDepTwoReleaseStruct(): The volume percentage values "
-        "must be in ascending order");
+    throw std::invalid_argument(ownerOfTableTexts() +
+                                ":setVolDepTwoReleaseStruct(): The volume percentage values must "
+                                "be in ascending order");
   }
   const auto& slots = table.releases;
   if (std::any_of(slots.begin(), slots.end(), [](const Slot& s) { return hasNegative(s); })) {
-    throw std::invalid_argument(
-        "VolDepTwoStaticReleaseRule:setVolDepTwoReleaseStruct(): The releases has a negative "
-        "value.");
+    throw std::invalid_argument(ownerOfTableTexts() +
+                                ":setVolDepTwoReleaseStruct(): The releases has a negative value.");
   }
   if (!std::all_of(slots.begin(), slots.end(),
                    [&](const Slot& s) { return hasShape(s, limits1.size(), limits2.size()); })) {
@@ -84,22 +83,22 @@ void VolDepTwoReleaseRule::setVolDepTwoReleaseStruct(const VolDepTwoReleaseStruc
 void VolDepTwoReleaseRule::setReservoirDependency(const std::shared_ptr<Element>& reservoirD1,
                                                   const std::shared_ptr<Element>& reservoirD2) {
   if (!reservoirD1) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setReservoirDenpendency: the reservoirD1 is nullptr");
+    throw std::invalid_argument(ownerOfDependencyTexts() +
+                                "::setReservoirDenpendency: the reservoirD1 is nullptr");
   }
   if (!reservoirD2) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setReservoirDenpendency: the reservoirD2 is nullptr");
+    throw std::invalid_argument(ownerOfDependencyTexts() +
+                                "::setReservoirDenpendency: the reservoirD2 is nullptr");
   }
   if (!isReservoir(reservoirD1)) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setReservoirDependency: The element reservoirD1 is not a "
-        "reservoir");
+    throw std::invalid_argument(ownerOfDependencyTexts() +
+                                "::setReservoirDependency: The element reservoirD1 is not a "
+                                "reservoir");
   }
   if (!isReservoir(reservoirD2)) {
-    throw std::invalid_argument(
-        "VolDepOneReleaseRule::setReservoirDependency: The element reservoirD2 is not a "
-        "reservoir");
+    throw std::invalid_argument(ownerOfDependencyTexts() +
+                                "::setReservoirDependency: The element reservoirD2 is not a "
+                                "reservoir");
   }
   setReservoirDependency1(reservoirD1);
   setReservoirDependency2(reservoirD2);

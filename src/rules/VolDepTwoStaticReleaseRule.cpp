@@ -12,8 +12,9 @@ void VolDepTwoStaticReleaseRule::setVolDepTwoReleaseStruct(const VolDepTwoReleas
   // Without limits on either side getRelease() never reads a slot, so an empty table is valid.
   const bool readsSlot = !table.volumePercentageD1.empty() && !table.volumePercentageD2.empty();
   if (readsSlot && table.releases.empty()) {
-    throw std::invalid_argument(
-        "VolDepTwoStaticReleaseRule: the releases vector must have a month slot.");
+    throw std::invalid_argument(textPrefix() +
+                                "VolDepTwoStaticReleaseRule: the releases vector must have a month "
+                                "slot.");
   }
   VolDepTwoReleaseRule::setVolDepTwoReleaseStruct(table);
 }

@@ -84,7 +84,7 @@ TEST(ObjectiveFunction, MissingResultsAndUnknownTypesAreNamed) {
       ObjectiveFunctionFactory::make(ObjectiveFunctionType::spillVolume, true, {reservoir})
           ->getValue(1),
       std::invalid_argument, "Invalid index value!");
-  EXPECT_THROW_TEXT(ObjectiveFunctionFactory::make(ObjectiveFunctionType::hedgingCurve, true, {}),
+  EXPECT_THROW_TEXT(ObjectiveFunctionFactory::make(static_cast<ObjectiveFunctionType>(6), true, {}),
                     std::invalid_argument,
                     "ObjectiveFunctionFactory::make(): invalid ObjectiveFunctionType");
   EXPECT_THROW_TEXT(ObjectiveFunctionTypeEnum::byName("Volume vertido "), std::invalid_argument,

@@ -14,6 +14,8 @@
 #include "optimization/RuleOptimizationScenario.h"
 #include "optimization/kernel/PseudoRandom.h"
 #include "rules/OptConstReleaseRule.h"
+#include "rules/OptHydrologicalStateReleaseRule.h"
+#include "scenario/ScenarioManager.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
 
@@ -253,4 +255,32 @@ TEST(RuleOptimization, ACopyOptimisesItsOwnElements) {
   EXPECT_FALSE(copy->getMatrixOfSolutions().empty());
   EXPECT_TRUE(original->getMatrixOfSolutions().empty());
   for (const auto& element : original->getElements()) EXPECT_TRUE(element->getOutputSeries().empty());
+}
+
+TEST(RuleOptimization, HedgingCurveMeasuresTheGuaranteesAgainstThoseRequired) {
+  TwoReservoirs system(std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 3,
+                                                      kTwoYears, "Curva guia"));
+  auto rule = std::make_shared<OptHydrologicalStateReleaseRule>();
+  rule->setReservoirsOfSystem({system.reservoirs[0]});
+  rule->setStates(2, {0.5}, {4.0, 8.0});
+  rule->setOptStates({0.5}, {4.0, 8.0}, {90.0, 80.0});
+  const auto& settings = system.net.scenario->getSettingsManager();
+  Scenario::getSettings<ReservoirRuleSettings>(system.reservoirs[0], settings)->setRule(rule);
+  ASSERT_TRUE(system.net.scenario->run(nullptr));
+
+  const auto function =
+      ObjectiveFunctionFactory::make(ObjectiveFunctionType::hedgingCurve, true, system.reservoirs);
+  auto& manager = ScenarioManager::getInstance();
+  manager.setCurrentScenario(nullptr);
+  EXPECT_EQ(function->getValue(0), 0.0);  // no scenario to read the rules from
+
+  manager.setCurrentScenario(system.net.scenario);
+  const auto achieved = rule->getGuaranteeResults();
+  ASSERT_EQ(achieved.size(), 2u);
+  // The second reservoir's constant rule adds nothing.
+  const double expected = (90.0 - achieved[0]) * (90.0 - achieved[0]) / 90.0 +
+                          (80.0 - achieved[1]) * (80.0 - achieved[1]) / 80.0;
+  EXPECT_NEAR(function->getValue(0), expected, 1e-9);
+  EXPECT_GT(expected, 0.0);
+  manager.setCurrentScenario(nullptr);
 }

@@ -5,9 +5,13 @@
 #include "rules/ConstReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
 #include "rules/OptConstReleaseRule.h"
+#include "rules/OptHydrologicalStateReleaseRule.h"
 #include "rules/OptNoneReleaseRule.h"
 #include "rules/OptPeriodicReleaseRule.h"
 #include "rules/OptSerieReleaseRule.h"
+#include "rules/OptVolDepOnePeriodicReleaseRule.h"
+#include "rules/OptVolDepOneStaticReleaseRule.h"
+#include "rules/OptVolDepTwoStaticReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "support/ExpectThrow.h"
@@ -177,4 +181,135 @@ TEST(OptNoneReleaseRule, TakesNoVariableAndBecomesTheEmptyRule) {
   EXPECT_TRUE(std::dynamic_pointer_cast<NoneReleaseRule>(rule.convertToReleaseRule()));
   EXPECT_THROW_TEXT(rule.setDecisionVars({0.0}), std::invalid_argument,
                     "OptNoneReleaseRule::setDecisionVars: Invalid size of values vector");
+}
+
+namespace {
+
+constexpr double kMark = OptReleaseRule::kDecisionMark;
+
+}  // namespace
+
+TEST(OptVolDepOneReleaseRule, MarkedCellsAreChosenAndRowsSortedWithTheirReleases) {
+  OptVolDepOnePeriodicReleaseRule rule;
+  rule.setMaxRelease(40.0);
+  std::vector<double> fixed(12, 3.0);
+  std::vector<double> chosenJanuary = fixed;
+  chosenJanuary[0] = kMark;
+  rule.setToOptVectorOfVolDepOneReleaseStruct({{kMark, chosenJanuary}, {50.0, fixed}});
+  ASSERT_EQ(rule.getNumOfDecisionVars(), 2u);  // the first row's percentage and January release
+  // Row one becomes 80 % with January 0.5 * 40; sorted, it now follows the fixed 50 % row.
+  rule.setDecisionVars({0.8, 0.5});
+  const auto& table = rule.getVectorOfVolDepOneReleaseStruct();
+  ASSERT_EQ(table.size(), 2u);
+  EXPECT_DOUBLE_EQ(table[0].percentage, 50.0);
+  EXPECT_EQ(table[0].releases, fixed);
+  EXPECT_DOUBLE_EQ(table[1].percentage, 80.0);
+  EXPECT_DOUBLE_EQ(table[1].releases[0], 20.0);
+  EXPECT_DOUBLE_EQ(table[1].releases[1], 3.0);
+
+  rule.setReservoirDependencyId(4);
+  const auto plain =
+      std::dynamic_pointer_cast<VolDepOnePeriodicReleaseRule>(rule.convertToReleaseRule());
+  ASSERT_TRUE(plain);
+  EXPECT_EQ(plain->getType(), Vocabulary::of(ReleaseRuleType::periodicVolumeDependence1));
+  EXPECT_EQ(plain->getVectorOfVolDepOneReleaseStruct(), table);
+  EXPECT_EQ(plain->getReservoirDependencyId(), 4u);
+
+  const auto copy = std::static_pointer_cast<OptVolDepOnePeriodicReleaseRule>(rule.copy());
+  EXPECT_EQ(copy->getToOptVectorOfVolDepOneReleaseStruct(),
+            rule.getToOptVectorOfVolDepOneReleaseStruct());
+  EXPECT_EQ(copy->getVectorOfVolDepOneReleaseStruct(), table);
+  EXPECT_DOUBLE_EQ(copy->getMaxRelease(), 40.0);
+}
+
+TEST(OptVolDepOneReleaseRule, FailuresNameTheOptimisableRule) {
+  OptVolDepOneStaticReleaseRule rule;
+  EXPECT_THROW_TEXT(rule.setReservoirDependency(nullptr), std::invalid_argument,
+                    "OptVolDepOneReleaseRule::setReservoirDenpendency: the reservoir is nullptr");
+  EXPECT_THROW_TEXT(rule.setVectorOfVolDepOneReleaseStruct({{10.0, {-1.0}}}), std::invalid_argument,
+                    "OptVolDepOneReleaseRule::setVolumePeriodicReleaseStr(): All values of "
+                    "releases must be positive");
+  EXPECT_THROW_TEXT(rule.setVectorOfVolDepOneReleaseStruct({{60.0, {1.0}}, {50.0, {1.0}}}),
+                    std::invalid_argument,
+                    "OptVolDepOneReleaseRule:setVolumePeriodicReleaseStr(): The volume "
+                    "percentage values must be in ascending order.");
+  EXPECT_THROW_TEXT(rule.setToOptVectorOfVolDepOneReleaseStruct({{kMark, {-2.0}}}),
+                    std::invalid_argument,
+                    "OptVolDepOneReleaseRule::setVolumePeriodicReleaseStr(): All values of "
+                    "releases must be positive");
+  OptVolDepOnePeriodicReleaseRule periodic;
+  EXPECT_THROW_TEXT(periodic.setToOptVectorOfVolDepOneReleaseStruct({{kMark, {1.0}}}),
+                    std::invalid_argument,
+                    "OptVolDepOnePeriodicReleaseRule: the releases vector must be the size 12.");
+  rule.setToOptVectorOfVolDepOneReleaseStruct({{kMark, {kMark}}});
+  EXPECT_THROW_TEXT(rule.setDecisionVars({0.5}), std::invalid_argument,
+                    "OptVolDepOneReleaseRule::setDecisionVars: Invalid size of values vector");
+  EXPECT_TRUE(rule.getVectorOfVolDepOneReleaseStruct().empty());
+}
+
+TEST(OptVolDepTwoReleaseRule, WalksBothListsThenTheNestAndSortsEachList) {
+  OptVolDepTwoStaticReleaseRule rule;
+  rule.setMaxRelease(10.0);
+  VolDepTwoReleaseStruct marks;
+  marks.volumePercentageD1 = {kMark, 40.0};
+  marks.volumePercentageD2 = {30.0, kMark};
+  marks.releases = {{{kMark, 1.0}, {2.0, 3.0}}};
+  rule.setOptVolDepTwoReleaseStruct(marks);
+  ASSERT_EQ(rule.getNumOfDecisionVars(), 3u);
+  // D1 = {90, 40} and D2 = {30, 20} before sorting; the nest's marked cell is 0.5 * 10.
+  rule.setDecisionVars({0.9, 0.2, 0.5});
+  const auto& table = rule.getVolDepTwoReleaseStruct();
+  EXPECT_EQ(table.volumePercentageD1, (std::vector<double>{40.0, 90.0}));
+  EXPECT_EQ(table.volumePercentageD2, (std::vector<double>{20.0, 30.0}));
+  // Rows swap (D1) and columns swap (D2): [[5, 1], [2, 3]] becomes [[3, 2], [1, 5]].
+  EXPECT_EQ(table.releases,
+            (std::vector<std::vector<std::vector<double>>>{{{3.0, 2.0}, {1.0, 5.0}}}));
+  EXPECT_THROW_TEXT(rule.setReservoirDependency(nullptr, nullptr), std::invalid_argument,
+                    "OptVolDepTwoReleaseRule::setReservoirDenpendency: the reservoirD1 is nullptr");
+  marks.releases[0][1][1] = -1.0;
+  EXPECT_THROW_TEXT(rule.setOptVolDepTwoReleaseStruct(marks), std::invalid_argument,
+                    "OptVolDepTwoReleaseRule:setVolDepTwoReleaseStruct(): The releases has a "
+                    "negative value.");
+  const auto plain =
+      std::dynamic_pointer_cast<VolDepTwoStaticReleaseRule>(rule.convertToReleaseRule());
+  ASSERT_TRUE(plain);
+  EXPECT_EQ(plain->getVolDepTwoReleaseStruct(), table);
+}
+
+TEST(OptHydrologicalStateReleaseRule, ZonesTakeValuesAsTheyAreAndReleasesScaled) {
+  OptHydrologicalStateReleaseRule rule;
+  rule.setStates(3, {0.3, 0.6}, {1.0, 2.0, 3.0});
+  rule.setMaxRelease(50.0);
+  rule.setOptStates({kMark, 0.7}, {kMark, 4.0, kMark}, {90.0, 80.0, 70.0});
+  ASSERT_EQ(rule.getNumOfDecisionVars(), 3u);
+  rule.setDecisionVars({0.25, 0.1, 1.0});  // zone 0.25; releases 0.1 * 50 and 1.0 * 50
+  EXPECT_EQ(rule.getVectorOfProportionalZones(), (std::vector<double>{0.25, 0.7}));
+  EXPECT_EQ(rule.getRelease(), (std::vector<double>{5.0, 4.0, 50.0}));
+  const auto copy = std::static_pointer_cast<OptHydrologicalStateReleaseRule>(rule.copy());
+  EXPECT_EQ(copy->getRequiredGuarantees(), (std::vector<double>{90.0, 80.0, 70.0}));
+  EXPECT_EQ(copy->getRelease(), rule.getRelease());
+  const auto plain =
+      std::dynamic_pointer_cast<HydrologicalStateReleaseRule>(rule.convertToReleaseRule());
+  ASSERT_TRUE(plain);
+  EXPECT_EQ(plain->getType(), Vocabulary::of(ReleaseRuleType::hydrologicalState));
+  EXPECT_EQ(plain->getRelease(), rule.getRelease());
+}
+
+TEST(OptHydrologicalStateReleaseRule, RefusesTablesOfAnotherNumberOfStates) {
+  OptHydrologicalStateReleaseRule rule;
+  rule.setStates(2, {0.5}, {1.0, 2.0});
+  const std::string head = "OptHydrologicalStateReleaseRule::setStates(): ";
+  EXPECT_THROW_TEXT(rule.setOptStates({}, {1.0, 2.0}, {1.0, 1.0}), std::invalid_argument,
+                    head + "The size of proportionalZones must be numOfStates - 1");
+  EXPECT_THROW_TEXT(rule.setOptStates({0.5}, {1.0}, {1.0, 1.0}), std::invalid_argument,
+                    head + "The size of releases must be numOfStates");
+  EXPECT_THROW_TEXT(rule.setOptStates({0.5}, {1.0, 2.0}, {1.0}), std::invalid_argument,
+                    head + "The size of requiredGuarantees must be numOfStates");
+  EXPECT_THROW_TEXT(rule.setOptStates({0.5}, {-1.0, 2.0}, {1.0, 1.0}), std::invalid_argument,
+                    head + "All values of releases must be positive");
+  EXPECT_THROW_TEXT(rule.setStates(2, {0.5}, {-1.0, 2.0}), std::invalid_argument,
+                    head + "All values of releases must be positive");
+  EXPECT_THROW_TEXT(rule.setMaxRelease(-1.0), std::invalid_argument,
+                    "OptHydrologicalStateReleaseRule::setMaxRelease(): the maxRelease is a "
+                    "negative value");
 }

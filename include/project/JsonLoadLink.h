@@ -15,11 +15,9 @@ class JsonLoadLink : public JsonLoadElement {
  public:
   JsonLoadLink(std::shared_ptr<Link> link, std::shared_ptr<Scenario> scenario);
 
-  // As JsonLoadElement::load(); an end that names no element throws std::invalid_argument
-  // "Scenario::getElement(): invalid elementId", an end that is a link std::invalid_argument
-  // "JsonLoadLink::load(): the ends of a link must be nodes", a sense outside the vocabulary
-  // std::out_of_range "map::at", and a bidirectional link whose ends are not both reservoirs the
-  // exception of Link::setIsBidirectional.
+  // As JsonLoadElement::load(); an end that names no node, or a sense outside the vocabulary,
+  // throws JsonLoadException at that value, and a bidirectional link whose ends are not both
+  // reservoirs the exception of Link::setIsBidirectional.
   void load(const nlohmann::json& item) override;
   // Whether the item carried the obsolete limit object with a value, which then filled the
   // link's "Limite de trecho" over the scenario's interval.

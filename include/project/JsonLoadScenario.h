@@ -38,9 +38,9 @@ class JsonLoadScenario {
 
  private:
   void loadElements(const nlohmann::json& object, const std::shared_ptr<Scenario>& scenario);
-  // Reads each node item into a new node with its reader kept in loaders; false when an item
-  // lacked its wrapper, element or type and made no node.
-  static bool loadNodes(const nlohmann::json& nodes, const std::shared_ptr<Scenario>& scenario,
+  // Reads each node item into a new node with its reader kept in loaders. Throws
+  // JsonLoadException for an item without its wrapper, element or type.
+  static void loadNodes(const nlohmann::json& nodes, const std::shared_ptr<Scenario>& scenario,
                         std::vector<std::shared_ptr<JsonLoadNode>>& loaders);
   void loadLinks(const nlohmann::json& object, const std::shared_ptr<Scenario>& scenario);
   static void loadShapes(const nlohmann::json& object, Scenario& scenario);

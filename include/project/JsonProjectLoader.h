@@ -16,14 +16,18 @@ class JsonProjectLoader {
  public:
   // The scenarios of the file at path (UTF-8). Throws std::runtime_error
   // "JsonLoadBuilder:load() error in open JSON file" when it cannot be opened,
-  // nlohmann::json::parse_error for text that is not JSON (an empty file included), and as
-  // loadJson().
+  // JsonLoadException "not a JSON text: ..." for text that is not JSON (an empty file included),
+  // and as loadJson().
   static std::vector<std::shared_ptr<Scenario>> load(const std::string& path);
   // The scenarios of the project text. Throws as load() from the parsing on.
   static std::vector<std::shared_ptr<Scenario>> loadText(const std::string& text);
-  // The scenarios of a parsed project. Throws JsonLoadException "Invalid json file" for a missing
-  // required key, nlohmann::json::type_error for a value of the wrong type, std::invalid_argument
-  // "JsonLoadScenarioFactory::make(): invalid scenarioType" and the other factories' texts for a
-  // kind without a reader, and the model's exceptions for values it refuses.
+  // The scenarios of a parsed project. Every failure is one JsonLoadException line that names the
+  // place first and then what is wrong there: a missing required key, a value of the wrong type,
+  // a kind without a reader (the factories' texts, such as "JsonLoadScenarioFactory::make():
+  // invalid scenarioType") or a value the model refuses (its own text), e.g.
+  // "/scenarios/0/id (scenario \"Base\"): expected a whole number, found the text \"7\"".
   static std::vector<std::shared_ptr<Scenario>> loadJson(const nlohmann::json& root);
+
+ private:
+  static std::vector<std::shared_ptr<Scenario>> read(const nlohmann::json& root);
 };

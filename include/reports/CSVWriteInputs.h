@@ -14,7 +14,7 @@
 class CSVWriteInputs {
  public:
   // Writes every element of scenario, in the order of the ids, under folder; gives the paths
-  // written. Throws as createFolders and writeSeriesElement.
+  // written. Throws as createFolders and writeSeriesElement, after removing the files it wrote.
   static std::vector<std::filesystem::path> writeInputs(const std::filesystem::path& folder,
                                                         const std::shared_ptr<Scenario>& scenario);
   // Makes the scenario's folder under folder and gives it. Throws std::runtime_error
@@ -23,7 +23,9 @@ class CSVWriteInputs {
                                              const Scenario& scenario);
   // Writes the input series of element into scenarioFolder and gives the file's path. Throws
   // std::runtime_error "CSVWriteInputs::writeSeriesElement(): erro ao abrir arquivo" when the
-  // file cannot be made.
+  // file cannot be made, and
+  // "CSVWriteInputs::writeSeriesElement(): erro ao escrever arquivo: <path>" when a write to it
+  // fails (the file is then removed).
   static std::filesystem::path writeSeriesElement(const std::filesystem::path& scenarioFolder,
                                                   const Element& element);
 };

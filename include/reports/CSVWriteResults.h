@@ -17,13 +17,16 @@
 class CSVWriteResults {
  public:
   // Writes every window of every enabled element with results of each scenario under folder,
-  // elements in the order of their ids; gives the paths written. Throws as writeSeriesElement.
+  // elements in the order of their ids; gives the paths written. Throws as writeSeriesElement,
+  // after removing the files it wrote.
   static std::vector<std::filesystem::path> writeScenarios(
       const std::vector<std::shared_ptr<Scenario>>& scenarios, const std::filesystem::path& folder);
   // Writes the results of element in window runIndex under folder and gives the file's path.
   // Throws std::out_of_range "Invalid window index" for a window without results, and
   // std::runtime_error "CSVWriteResults::writeSeriesElement(): erro ao abrir arquivo" when the
-  // file cannot be made.
+  // file cannot be made, and
+  // "CSVWriteResults::writeSeriesElement(): erro ao escrever arquivo: <path>" when a write to it
+  // fails (the file is then removed).
   static std::filesystem::path writeSeriesElement(const std::shared_ptr<Scenario>& scenario,
                                                   const std::filesystem::path& folder,
                                                   const std::shared_ptr<Element>& element,

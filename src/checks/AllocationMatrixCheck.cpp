@@ -1,5 +1,6 @@
 #include "checks/AllocationMatrixCheck.h"
 
+#include <algorithm>
 #include <string>
 
 #include "common/NumericalUtils.h"
@@ -63,6 +64,17 @@ void AllocationMatrixCheck::checkTheEmptyMatrix(const Matrix& matrix, const Elem
   if (matrix.empty() || releases == nullptr || releases->empty()) {
     report(errors, element, "Matriz de alocação vazia:");
   }
+}
+
+void AllocationMatrixCheck::checkTheMatrixReleasesSomething(const Matrix& matrix,
+                                                            const Element& element,
+                                                            Errors& errors) {
+  const std::vector<double>* releases = releasesOf(matrix, element);
+  const bool releasesSomething =
+      releases != nullptr && std::any_of(releases->begin(), releases->end(), [](double release) {
+        return NumericalUtils::subtractDoubles(release, 0.0, kEps) > 0.0;
+      });
+  if (!releasesSomething) report(errors, element, "Matriz de alocação vazia:");
 }
 
 void AllocationMatrixCheck::checkTheSumOfMatrixEqual(const Matrix& matrix, const Element& element,

@@ -1,6 +1,7 @@
 #include "checks/NodeRuleChecks.h"
 
 #include "checks/AllocationMatrixCheck.h"
+#include "core/Node.h"
 #include "core/RuleSettings.h"
 #include "core/Scenario.h"
 
@@ -13,6 +14,13 @@ void RuleSharingCheck<Base>::runChecks() {
                                                       *this->getElement(), this->mutableErrors());
   AllocationMatrixCheck::checkTheSumOfMatrixEqual(settings->getAllocation(), *this->getElement(),
                                                   this->mutableErrors());
+  // Without a line that releases something the node passes nothing on: the water that reaches
+  // it would leave the network unseen.
+  const auto node = std::static_pointer_cast<Node>(this->getElement());
+  if (!node->getEnabledDownstreamLinks().empty()) {
+    AllocationMatrixCheck::checkTheMatrixReleasesSomething(
+        settings->getAllocation(), *this->getElement(), this->mutableErrors());
+  }
 }
 
 template class RuleSharingCheck<BasinCheck>;

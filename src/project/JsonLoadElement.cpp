@@ -17,7 +17,10 @@ void JsonLoadElement::loadElement(const json& object) {
   const auto id = Helper::getRequired<unsigned int>(object, "id");
   const auto databaseId = Helper::getRequired<unsigned int>(object, "databaseId");
   // A second element under the same id would hide the first from every lookup by id.
-  if (ElementsFilter::getElement(scenario->getElements(), id)) throw JsonLoadException();
+  if (ElementsFilter::getElement(scenario->getElements(), id)) {
+    throw JsonLoadException(object["id"],
+                            "the id " + std::to_string(id) + " is already used by another element");
+  }
   scenario->addElement(element, false, id);
   element->setDatabaseId(databaseId);
   Helper::applyOptional<std::string>(object, "name",
@@ -27,7 +30,7 @@ void JsonLoadElement::loadElement(const json& object) {
   const auto settingsLoader = JsonLoadSettingsFactory::make(element, scenario);
   bool found = false;
   const json& settings = Helper::findOptional(found, object, "scenarioConf");
-  if (found) settingsLoader->load(settings);
+  if (found) Helper::at(settings, [&] { settingsLoader->load(Helper::asObject(settings)); });
 }
 
 void JsonLoadElement::setLambdaExtraInfoElement(ExtraInfo hook) { extraInfo() = std::move(hook); }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/ElementsFilter.h"
 #include "core/Node.h"
 #include "core/Scenario.h"
 #include "project/JsonLoadHelper.h"
@@ -15,15 +16,20 @@ using Helper = JsonLoadHelper;
 
 namespace {
 
-std::shared_ptr<Node> nodeOf(const Scenario& scenario, unsigned int id) {
-  auto node = std::dynamic_pointer_cast<Node>(scenario.getElement(id));
-  if (!node) throw std::invalid_argument("JsonLoadLink::load(): the ends of a link must be nodes");
+// The node whose id the member end of item holds.
+std::shared_ptr<Node> nodeOf(const Scenario& scenario, const json& item, const char* end) {
+  const json& id = Helper::findRequired(item, end);
+  const auto element =
+      ElementsFilter::getElement(scenario.getElements(), Helper::get<unsigned int>(id));
+  if (!element) Helper::refuse(id, "the id of an element of the scenario");
+  auto node = std::dynamic_pointer_cast<Node>(element);
+  if (!node) Helper::refuse(id, "the id of a node (the ends of a link must be nodes)");
   return node;
 }
 
-int senseOf(const std::string& name) {
-  const Enum<Sense>* sense = Vocabulary::senses().findByName(name);
-  if (sense == nullptr) throw std::out_of_range("map::at");
+int senseOf(const json& value) {
+  const Enum<Sense>* sense = Vocabulary::senses().findByName(Helper::get<std::string>(value));
+  if (sense == nullptr) Helper::refuse(value, "\"Original\" or \"Invertido\"");
   return sense->getId();
 }
 
@@ -48,8 +54,8 @@ void JsonLoadLink::loadSpecific(const json&) {}
 
 void JsonLoadLink::loadEnds(const json& item) {
   const Scenario& scenario = *getScenario();
-  const auto upstream = nodeOf(scenario, Helper::getRequired<unsigned int>(item, "upstream"));
-  const auto downstream = nodeOf(scenario, Helper::getRequired<unsigned int>(item, "downstream"));
+  const auto upstream = nodeOf(scenario, item, "upstream");
+  const auto downstream = nodeOf(scenario, item, "downstream");
   link->setUpstream(upstream);
   link->setDownstream(downstream);
   downstream->addUpstream(link);
@@ -88,13 +94,13 @@ void JsonLoadLink::loadSenseInfo(const json& item) {
   Helper::applyOptional<std::vector<double>>(
       object, "originalDestinyVolumesRange",
       [&](const std::vector<double>& range) { info.originalDestinyVolumesRange = range; });
-  Helper::applyOptional<std::vector<std::vector<std::string>>>(
-      object, "senses", [&](const std::vector<std::vector<std::string>>& names) {
-        for (const auto& row : names) {
-          info.senses.emplace_back();
-          for (const auto& name : row) info.senses.back().push_back(senseOf(name));
-        }
-      });
+  const json& senses = Helper::findOptional(found, object, "senses");
+  if (found) {
+    for (const json& row : Helper::asArray(senses)) {
+      info.senses.emplace_back();
+      for (const json& name : Helper::asArray(row)) info.senses.back().push_back(senseOf(name));
+    }
+  }
   link->configureSenseInfo(info);
 }
 

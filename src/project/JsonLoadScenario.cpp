@@ -11,28 +11,18 @@
 using json = nlohmann::json;
 using Helper = JsonLoadHelper;
 
-namespace {
-
-// The type of a node item, item.node.element.elementType, or null when a level is missing.
-const json* nodeTypeOf(const json& item) {
-  bool found = false;
-  const json* level = &item;
-  for (const char* key : {"node", "element", "elementType"}) {
-    level = &Helper::findOptional(found, *level, key);
-    if (!found) return nullptr;
-  }
-  return level;
-}
-
-}  // namespace
-
 std::shared_ptr<Scenario> JsonLoadScenario::load(const json& object) {
   oldTrafficLimit = false;
-  const Interval interval = JsonLoadInterval::load(Helper::findRequired(object, "interval"));
-  const auto methodType = Helper::getRequired<std::string>(object, "ExecutionMethodType");
+  const json& intervalObject = Helper::findRequired(object, "interval");
+  const Interval interval =
+      Helper::at(intervalObject, [&] { return JsonLoadInterval::load(intervalObject); });
+  const json& methodType = Helper::findRequired(object, "ExecutionMethodType");
+  const auto methodLoader = Helper::at(methodType, [&] {
+    return JsonLoadExecutionMethodFactory::make(Helper::get<std::string>(methodType));
+  });
+  const json& methodObject = Helper::asObject(Helper::findRequired(object, "ExecutionMethod"));
   const std::shared_ptr<ExecutionMethod> method =
-      JsonLoadExecutionMethodFactory::make(methodType)
-          ->load(Helper::findRequired(object, "ExecutionMethod"), interval);
+      Helper::at(methodObject, [&] { return methodLoader->load(methodObject, interval); });
   const auto name = Helper::getRequired<std::string>(object, "name");
   std::shared_ptr<Scenario> scenario =
       getInstance(method, Helper::getRequired<unsigned int>(object, "id"), interval, name);
@@ -52,23 +42,23 @@ void JsonLoadScenario::loadElements(const json& object, const std::shared_ptr<Sc
   const json& nodes = Helper::findOptional(found, object, "nodes");
   if (!found) return;
   std::vector<std::shared_ptr<JsonLoadNode>> nodeLoaders;
-  if (loadNodes(nodes, scenario, nodeLoaders)) loadLinks(object, scenario);
+  loadNodes(nodes, scenario, nodeLoaders);
+  loadLinks(object, scenario);
   for (const auto& loader : nodeLoaders) loader->loadAfterLinks();
 }
 
-bool JsonLoadScenario::loadNodes(const json& nodes, const std::shared_ptr<Scenario>& scenario,
+void JsonLoadScenario::loadNodes(const json& nodes, const std::shared_ptr<Scenario>& scenario,
                                  std::vector<std::shared_ptr<JsonLoadNode>>& loaders) {
-  bool everyNodeRead = true;
+  // A node item without its type is refused rather than skipped: a network with a node missing
+  // would be checked and run as another network.
   for (const json& item : Helper::asArray(nodes)) {
-    const json* type = nodeTypeOf(item);
-    if (type == nullptr) {
-      everyNodeRead = false;
-      continue;
-    }
-    loaders.push_back(JsonLoadElementFactory::makeNode(Helper::get<std::string>(*type), scenario));
-    loaders.back()->load(item);
+    const json& element = Helper::findRequired(Helper::findRequired(item, "node"), "element");
+    const json& type = Helper::findRequired(element, "elementType");
+    loaders.push_back(Helper::at(type, [&] {
+      return JsonLoadElementFactory::makeNode(Helper::get<std::string>(type), scenario);
+    }));
+    Helper::at(item, [&] { loaders.back()->load(item); });
   }
-  return everyNodeRead;
 }
 
 void JsonLoadScenario::loadLinks(const json& object, const std::shared_ptr<Scenario>& scenario) {
@@ -76,10 +66,11 @@ void JsonLoadScenario::loadLinks(const json& object, const std::shared_ptr<Scena
   const json& links = Helper::findOptional(found, object, "links");
   if (!found) return;
   for (const json& item : Helper::asArray(links)) {
-    const auto type =
-        Helper::getRequired<std::string>(Helper::findRequired(item, "element"), "elementType");
-    const auto loader = JsonLoadElementFactory::makeLink(type, scenario);
-    loader->load(item);
+    const json& type = Helper::findRequired(Helper::findRequired(item, "element"), "elementType");
+    const auto loader = Helper::at(type, [&] {
+      return JsonLoadElementFactory::makeLink(Helper::get<std::string>(type), scenario);
+    });
+    Helper::at(item, [&] { loader->load(item); });
     oldTrafficLimit = oldTrafficLimit || loader->usedOldTrafficLimit();
   }
 }

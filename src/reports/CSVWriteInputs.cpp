@@ -4,14 +4,20 @@
 #include <system_error>
 
 #include "reports/CSVSeriesWriter.h"
+#include "reports/CSVWriteFile.h"
 #include "reports/ReportFormat.h"
 
 std::vector<std::filesystem::path> CSVWriteInputs::writeInputs(
     const std::filesystem::path& folder, const std::shared_ptr<Scenario>& scenario) {
   const std::filesystem::path scenarioFolder = createFolders(folder, *scenario);
   std::vector<std::filesystem::path> written;
-  for (const auto& element : scenario->getSortedElements()) {
-    written.push_back(writeSeriesElement(scenarioFolder, *element));
+  try {
+    for (const auto& element : scenario->getSortedElements()) {
+      written.push_back(writeSeriesElement(scenarioFolder, *element));
+    }
+  } catch (...) {
+    CSVWriteFile::removeAll(written);
+    throw;
   }
   return written;
 }
@@ -35,5 +41,7 @@ std::filesystem::path CSVWriteInputs::writeSeriesElement(
   std::ofstream file =
       CSVSeriesWriter::create(path, "CSVWriteInputs::writeSeriesElement(): erro ao abrir arquivo");
   CSVSeriesWriter::write(file, element.getVectorOfInputSeries(), "%d-%m-%Y");
+  CSVWriteFile::finish(file, path,
+                       "CSVWriteInputs::writeSeriesElement(): erro ao escrever arquivo");
   return path;
 }

@@ -2,22 +2,29 @@
 
 #include <ctime>
 #include <iomanip>
+#include <stdexcept>
 
 #include "core/ExecutionMethod.h"
 #include "reports/CSVSeriesWriter.h"
+#include "reports/CSVWriteFile.h"
 #include "reports/ReportFormat.h"
 
 std::vector<std::filesystem::path> CSVWriteResults::writeScenarios(
     const std::vector<std::shared_ptr<Scenario>>& scenarios, const std::filesystem::path& folder) {
   std::vector<std::filesystem::path> written;
-  for (const auto& scenario : scenarios) {
-    for (const auto& element : scenario->getSortedElements()) {
-      if (!element->isEnabled()) continue;
-      const auto windows = static_cast<unsigned int>(element->getOutputSeries().size());
-      for (unsigned int window = 0; window < windows; ++window) {
-        written.push_back(writeSeriesElement(scenario, folder, element, window));
+  try {
+    for (const auto& scenario : scenarios) {
+      for (const auto& element : scenario->getSortedElements()) {
+        if (!element->isEnabled()) continue;
+        const auto windows = static_cast<unsigned int>(element->getOutputSeries().size());
+        for (unsigned int window = 0; window < windows; ++window) {
+          written.push_back(writeSeriesElement(scenario, folder, element, window));
+        }
       }
     }
+  } catch (...) {
+    CSVWriteFile::removeAll(written);
+    throw;
   }
   return written;
 }
@@ -37,6 +44,8 @@ std::filesystem::path CSVWriteResults::writeSeriesElement(const std::shared_ptr<
   writeElementInfo(file, *element);
   writeScenarioInfo(file, *scenario, runIndex);
   CSVSeriesWriter::write(file, series, "%Y%m%d");
+  CSVWriteFile::finish(file, path,
+                       "CSVWriteResults::writeSeriesElement(): erro ao escrever arquivo");
   return path;
 }
 

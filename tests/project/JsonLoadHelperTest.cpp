@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "project/JsonLoadException.h"
 #include "project/JsonLoadHelper.h"
 #include "support/ExpectThrow.h"
@@ -24,8 +26,10 @@ TEST(JsonLoadHelper, NullCountsAsAbsent) {
     EXPECT_EQ(H::findOptional<unsigned int>(found, kObject, key), 0u);
     EXPECT_EQ(H::findOptional<std::string>(found, kObject, key), "");
     EXPECT_FALSE(found);
-    EXPECT_THROW_TEXT(H::findRequired(kObject, key), JsonLoadException, "Invalid json file");
-    EXPECT_THROW_TEXT(H::getRequired<double>(kObject, key), JsonLoadException, "Invalid json file");
+    const std::string message = "the key \"" + std::string(key) + "\" is required" +
+                                (std::string(key) == "none" ? ", found null" : "");
+    EXPECT_THROW_TEXT(H::findRequired(kObject, key), JsonLoadException, message);
+    EXPECT_THROW_TEXT(H::getRequired<double>(kObject, key), JsonLoadException, message);
   }
 }
 
@@ -50,22 +54,69 @@ TEST(JsonLoadHelper, TypedValues) {
   EXPECT_FALSE(found);
 }
 
-TEST(JsonLoadHelper, WrongTypesAreTheLibrarysTypeErrors) {
-  const json wrong = json::parse(R"({"text":"3","yes":true,"fraction":3.5,"object":{}})");
-  using E = json::type_error;
-  EXPECT_THROW_TEXT(H::getRequired<unsigned int>(wrong, "text"), E,
-                    "[json.exception.type_error.302] type must be number, but is string");
-  // Booleans of the format are 0 and 1: a JSON true is refused, even where a flag stands.
-  EXPECT_THROW_TEXT(H::getRequired<bool>(wrong, "yes"), E,
-                    "[json.exception.type_error.302] type must be number, but is boolean");
-  EXPECT_THROW_TEXT(H::getRequired<double>(wrong, "yes"), E,
-                    "[json.exception.type_error.302] type must be number, but is boolean");
-  EXPECT_THROW_TEXT(H::getRequired<unsigned int>(wrong, "fraction"), E,
-                    "[json.exception.type_error.302] type must be integer, but is number");
-  EXPECT_THROW_TEXT(H::getRequired<std::vector<double>>(wrong, "object"), E,
-                    "[json.exception.type_error.302] type must be array, but is object");
-  EXPECT_THROW_TEXT(H::getRequired<std::string>(wrong, "fraction"), E,
-                    "[json.exception.type_error.302] type must be string, but is number");
-  // A member of something that is no object does not exist.
-  EXPECT_THROW_TEXT(H::findRequired(json::array(), "text"), JsonLoadException, "Invalid json file");
+// A refusal says what was expected and what was found, and points at the value at fault so that
+// the loader can name its place in the file.
+TEST(JsonLoadHelper, WrongTypesAreRefusedAtTheirValue) {
+  const json wrong =
+      json::parse(R"({"text":"3","yes":true,"fraction":3.5,"object":{},"list":[1,"2"]})");
+  const std::vector<std::pair<std::function<void()>, std::pair<const json*, std::string>>> cases = {
+      {[&] { H::getRequired<unsigned int>(wrong, "text"); },
+       {&wrong["text"], "expected a whole number, found the text \"3\""}},
+      // Booleans of the format are 0 and 1: a JSON true is refused, even where a flag stands.
+      {[&] { H::getRequired<bool>(wrong, "yes"); },
+       {&wrong["yes"], "expected 0 or 1, found the boolean true"}},
+      {[&] { H::getRequired<double>(wrong, "yes"); },
+       {&wrong["yes"], "expected a number, found the boolean true"}},
+      {[&] { H::getRequired<unsigned int>(wrong, "fraction"); },
+       {&wrong["fraction"], "expected a whole number, found the number 3.5"}},
+      {[&] { H::getRequired<std::vector<double>>(wrong, "object"); },
+       {&wrong["object"], "expected a list, found an object"}},
+      {[&] { H::getRequired<std::string>(wrong, "fraction"); },
+       {&wrong["fraction"], "expected a text, found the number 3.5"}},
+      {[&] { H::getRequired<std::vector<double>>(wrong, "list"); },
+       {&wrong["list"][1], "expected a number, found the text \"2\""}},
+      // A member of something that is no object is refused, never read as absent.
+      {[&] { H::findRequired(wrong["list"], "text"); },
+       {&wrong["list"], "expected an object, found a list"}},
+      {[&] {
+         bool found = false;
+         H::findOptional(found, wrong["fraction"], "text");
+       },
+       {&wrong["fraction"], "expected an object, found the number 3.5"}},
+  };
+  for (const auto& [call, fault] : cases) {
+    SCOPED_TRACE(fault.second);
+    try {
+      call();
+      ADD_FAILURE() << "accepted";
+    } catch (const JsonLoadException& error) {
+      EXPECT_EQ(error.what(), fault.second);
+      EXPECT_EQ(error.where(), fault.first);
+    }
+  }
+}
+
+// Long texts from the file are cut in messages: a name of megabytes must not flood the output.
+TEST(JsonLoadHelper, LongTextsAreCutInMessages) {
+  const json value = std::string(1000, 'a');
+  EXPECT_EQ(H::describe(value), "the text \"" + std::string(60, 'a') + "...\"");
+}
+
+// A failure of the model or of a factory gets the place it came from; one that has a place
+// keeps it.
+TEST(JsonLoadHelper, FailuresInsideAReadGetThePlaceOfTheRead) {
+  const json item = json::parse(R"({"a":{"b":1}})");
+  try {
+    H::at(item["a"], []() -> int { throw std::invalid_argument("Invalid day."); });
+    ADD_FAILURE();
+  } catch (const JsonLoadException& error) {
+    EXPECT_STREQ(error.what(), "Invalid day.");
+    EXPECT_EQ(error.where(), &item["a"]);
+  }
+  try {
+    H::at(item, [&] { return H::getRequired<std::string>(item["a"], "b"); });
+    ADD_FAILURE();
+  } catch (const JsonLoadException& error) {
+    EXPECT_EQ(error.where(), &item["a"]["b"]);
+  }
 }

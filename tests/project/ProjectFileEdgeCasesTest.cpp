@@ -5,11 +5,13 @@
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
 #include "project/JsonLoadElement.h"
+#include "project/JsonLoadException.h"
 #include "project/JsonProjectLoader.h"
 #include "project/JsonSaveBuilder.h"
 #include "project/JsonSaveElement.h"
 #include "project/ProjectFileSupport.h"
 #include "rules/VolDepOneReleaseRule.h"
+#include "support/ExpectThrow.h"
 
 using projectfile::replaced;
 using ProjectFileEdgeCases = projectfile::ProjectFileTest;
@@ -26,13 +28,16 @@ const std::string kFozItem = "{\"node\":{\"x\":8.00000000000000000";
 
 }  // namespace
 
-TEST_F(ProjectFileEdgeCases, ANodeItemWithoutItsWrapperMakesNoElementAndNoLinkIsRead) {
-  for (const std::string to : {"{\"nodo\":{\"x\":8.00000000000000000",
-                               "{\"node\":null,\"n\":{\"x\":8.00000000000000000"}) {
+// A node item without its wrapper is refused, naming the item: skipping it would check and run
+// another network than the file's, with the links of the missing node gone too.
+TEST_F(ProjectFileEdgeCases, ANodeItemWithoutItsWrapperIsRefusedNamingTheItem) {
+  for (const auto& [to, found] :
+       {std::pair<std::string, std::string>{"{\"nodo\":{\"x\":8.00000000000000000", ""},
+        {"{\"node\":null,\"n\":{\"x\":8.00000000000000000", ", found null"}}) {
     SCOPED_TRACE(to);
-    const auto vale = loadVale(replaced(golden(), kFozItem, to));
-    ASSERT_EQ(vale->getElements().size(), 3u);
-    EXPECT_EQ(vale->getElement(2)->getName(), "Cidade");
+    EXPECT_THROW_TEXT(
+        loadVale(replaced(golden(), kFozItem, to)), JsonLoadException,
+        "/scenarios/0/nodes/3 (scenario \"Vale\"): the key \"node\" is required" + found);
   }
   EXPECT_TRUE(loadVale(replaced(golden(), "\"nodes\":[", "\"nodos\":["))->getElements().empty());
 }

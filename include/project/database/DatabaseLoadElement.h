@@ -15,7 +15,8 @@ class Serie;
 // Fills an element's series from the project database: each input series from its enabled rows,
 // and, when asked, each result series of each window from the enabled rows of that window (the
 // last run stored) or from the rows of one run. Series without rows stay as they are. Throws
-// DatabaseException on an SQLite failure.
+// DatabaseException on an SQLite failure, and DatabaseLoadException, naming the table, element,
+// series and date, for a value that is no finite number or a date that has two values.
 class DatabaseLoadElement {
  public:
   explicit DatabaseLoadElement(std::shared_ptr<Element> element);

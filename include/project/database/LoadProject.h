@@ -17,6 +17,11 @@ class LoadProject {
   // throws for the file.
   static std::vector<std::shared_ptr<Scenario>> load(
       const std::string& path, const std::function<bool(long, long)>& progress);
+  // As load(), for reading only: neither file needs write permission, no file is created or
+  // changed, and the database is open read-only (SQLStorage::getInstanceReadOnly). Throws
+  // std::runtime_error "<database>: no such project database" when the database is missing.
+  static std::vector<std::shared_ptr<Scenario>> loadReadOnly(
+      const std::string& path, const std::function<bool(long, long)>& progress);
   // The database path of the project at path.
   static std::string databasePath(const std::string& path);
 };

@@ -15,6 +15,10 @@ class SQLStorage {
   // missing). Throws DatabaseException when the file cannot be opened as the project database;
   // the former instance is kept then.
   static SQLStorage& getInstance(const std::string& path);
+  // Replaces the single instance by one open on path for reading only: the file is neither
+  // created nor given a missing part of the schema, and no lock beyond a reader's is taken.
+  // Throws DatabaseException when the file is missing or cannot be opened.
+  static SQLStorage& getInstanceReadOnly(const std::string& path);
   // The current instance. Throws std::logic_error "SQLStorage::getInstance(): no project
   // database is open" before any open.
   static SQLStorage& getInstance();
@@ -37,6 +41,9 @@ class SQLStorage {
   void replaceOldStorage();
   // Closes the temporary database, if any, leaving its file as it is.
   void cleanTemporaryStorage();
+  // Throws DatabaseException (the locked text when another connection is writing) unless this
+  // connection could write now: it takes and at once gives back the writer's lock.
+  void requireWritable();
   // Rolls back the transaction open on storage, if any.
   static void rollbackInDatabase(SQLite::Database& storage);
 

@@ -5,7 +5,15 @@
 
 #include <stdexcept>
 
+#include "project/database/DatabaseException.h"
 #include "project/database/StorageManager.h"
+
+namespace {
+
+// As long as a writer of another connection may wait for the lock before it is called busy.
+constexpr int kReadOnlyBusyTimeoutMs = 1000;
+
+}  // namespace
 
 SQLStorage::SQLStorage(std::unique_ptr<SQLite::Database> storage, std::string path)
     : storage(std::move(storage)), path(std::move(path)) {}
@@ -19,6 +27,14 @@ std::unique_ptr<SQLStorage>& SQLStorage::instance() {
 
 SQLStorage& SQLStorage::getInstance(const std::string& path) {
   auto opened = StorageManager::createStorage(path);
+  instance().reset(new SQLStorage(std::move(opened), path));
+  return *instance();
+}
+
+SQLStorage& SQLStorage::getInstanceReadOnly(const std::string& path) {
+  auto opened = DatabaseException::guard([&] {
+    return std::make_unique<SQLite::Database>(path, SQLite::OPEN_READONLY, kReadOnlyBusyTimeoutMs);
+  });
   instance().reset(new SQLStorage(std::move(opened), path));
   return *instance();
 }
@@ -61,6 +77,13 @@ void SQLStorage::replaceOldStorage() {
 void SQLStorage::cleanTemporaryStorage() {
   temporaryStorage.reset();
   temporaryPath.clear();
+}
+
+void SQLStorage::requireWritable() {
+  DatabaseException::guard([&] {
+    storage->exec("BEGIN IMMEDIATE");
+    storage->exec("ROLLBACK");
+  });
 }
 
 void SQLStorage::rollbackInDatabase(SQLite::Database& storage) {

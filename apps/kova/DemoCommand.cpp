@@ -2,6 +2,7 @@
 
 #include "DemoProject.h"
 #include "ExitStatus.h"
+#include "Interrupt.h"
 #include "NewProjectTarget.h"
 #include "ProgressReporter.h"
 
@@ -39,11 +40,16 @@ int DemoCommand::run(const CommandLine& line, Console& console) {
   const auto project = projectIn(line.positional(0));
   NewProjectTarget::require(project);
   ProgressReporter progress(console, line.has("quiet"));
+  Interrupt::Guard interruptible;
   const auto lastYear =
       static_cast<unsigned int>(line.number("until", kLastYearOfRecord, kFirstYearOfRecord));
-  DemoProject::build(line.value("data", KOVA_DEMO_DATA), lastYear, project,
-                     progress.callback("saving", ProgressReporter::Form::steps));
+  const bool built = DemoProject::build(line.value("data", KOVA_DEMO_DATA), lastYear, project,
+                                        progress.callback("saving", ProgressReporter::Form::steps));
   progress.finish();
+  if (!built) {
+    console.out << "demo cancelled; nothing was written\n";
+    return exitCancelled;
+  }
   console.out << "demo project written to " << project.string() << '\n';
   return exitOk;
 }

@@ -426,9 +426,7 @@ std::vector<std::shared_ptr<Scenario>> DemoProject::makeScenarios(
   return {rules, priorities, windows};
 }
 
-void DemoProject::build(const std::filesystem::path& dataFolder, unsigned int lastYear,
+bool DemoProject::build(const std::filesystem::path& dataFolder, unsigned int lastYear,
                         const std::filesystem::path& path, const Progress& progress) {
-  if (!NewProjectTarget::save(makeScenarios(dataFolder, lastYear), path, progress)) {
-    throw std::runtime_error(path.string() + ": the demo project was not saved");
-  }
+  return NewProjectTarget::save(makeScenarios(dataFolder, lastYear), path, progress);
 }

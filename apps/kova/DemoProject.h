@@ -20,9 +20,9 @@ class DemoProject {
   // dataFolder. Throws std::runtime_error naming a file that is missing or malformed.
   static std::vector<std::shared_ptr<Scenario>> makeScenarios(
       const std::filesystem::path& dataFolder, unsigned int lastYear);
-  // Builds the scenarios and saves them as the project at path (file and database). Throws as
-  // makeScenarios, and std::runtime_error when the project cannot be written or progress
-  // cancelled.
-  static void build(const std::filesystem::path& dataFolder, unsigned int lastYear,
-                    const std::filesystem::path& path, const Progress& progress);
+  // Builds the scenarios and saves them as the project at path (file and database); false, with
+  // nothing written, when progress cancelled. Throws as makeScenarios, and std::runtime_error
+  // when the project cannot be written.
+  [[nodiscard]] static bool build(const std::filesystem::path& dataFolder, unsigned int lastYear,
+                                  const std::filesystem::path& path, const Progress& progress);
 };

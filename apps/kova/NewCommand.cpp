@@ -5,6 +5,7 @@
 #include "ExitStatus.h"
 #include "NewProjectTarget.h"
 #include "managers/ProjectFunctions.h"
+#include "scenario/PriorityScenario.h"
 
 Command NewCommand::describe() {
   return {"new",
@@ -20,9 +21,10 @@ int NewCommand::run(const CommandLine& line, Console& console) {
   const std::filesystem::path path(line.positional(0));
   NewProjectTarget::require(path);
   ProjectFunctions::closeProject();
-  const bool written = ProjectFunctions::createBlankPriorityProject(path.string());
-  ProjectFunctions::closeProject();
-  if (!written) throw std::runtime_error(path.string() + ": could not be written");
+  const std::shared_ptr<Scenario> blank = ProjectFunctions::createBlankPriorityScenery();
+  if (!NewProjectTarget::save({blank}, path, nullptr)) {
+    throw std::runtime_error(path.string() + ": could not be written");
+  }
   console.out << "new project written to " << path.string() << '\n';
   return exitOk;
 }

@@ -1,5 +1,7 @@
 #include "OpenProject.h"
 
+#include <unistd.h>
+
 #include <fstream>
 #include <stdexcept>
 
@@ -27,16 +29,43 @@ void requireReadableFile(const std::filesystem::path& path) {
   if (!std::ifstream(path)) throw std::runtime_error(path.string() + ": cannot be read");
 }
 
+void requireWritableFile(const std::filesystem::path& path) {
+  std::error_code error;
+  if (std::filesystem::exists(path, error) && ::access(path.c_str(), W_OK) != 0) {
+    throw std::runtime_error(path.string() + ": cannot be written (no write permission)");
+  }
+}
+
+std::vector<std::shared_ptr<Scenario>> load(const std::filesystem::path& path,
+                                            const OpenProject::Progress& progress,
+                                            OpenProject::Access access) {
+  if (access == OpenProject::Access::readOnly)
+    return LoadProject::loadReadOnly(path.string(), progress);
+  requireWritableFile(path);
+  requireWritableFile(LoadProject::databasePath(path.string()));
+  auto scenarios = LoadProject::load(path.string(), progress);
+  SQLStorage::getInstance().requireWritable();
+  return scenarios;
+}
+
 }  // namespace
 
-OpenProject::OpenProject(const std::filesystem::path& path, const Progress& progress) : file(path) {
+OpenProject::OpenProject(const std::filesystem::path& path, const Progress& progress, Access access)
+    : file(path) {
   requireReadableFile(path);
   ProjectFunctions::closeProject();
   try {
-    all = LoadProject::load(path.string(), progress);
+    all = load(path, progress, access);
   } catch (const std::exception& error) {
     ProjectFunctions::closeProject();
-    throw std::runtime_error(path.string() + ": " + ErrorText::of(error));
+    const std::string text = ErrorText::of(error);
+    // Some failures already start with the file they concern.
+    throw std::runtime_error(text.rfind(path.string(), 0) == 0 ? text
+                                                               : path.string() + ": " + text);
+  }
+  if (all.empty()) {
+    ProjectFunctions::closeProject();
+    throw std::runtime_error(path.string() + ": the project has no scenario");
   }
   for (unsigned int i = 0; i < all.size(); ++i)
     ScenarioManager::getInstance().addScenery(i, all[i]);

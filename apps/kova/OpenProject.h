@@ -13,10 +13,15 @@ class Scenario;
 class OpenProject {
  public:
   using Progress = std::function<bool(long, long)>;
+  // A command that only reads opens the files read-only: it needs no write permission, takes no
+  // writer's lock and never creates a database. One that writes learns before it works that it
+  // cannot write, and which file.
+  enum class Access { readOnly, readWrite };
 
   // Opens the project file at path and the database beside it. Failures are std::runtime_error
-  // texts that start with the file's name.
-  explicit OpenProject(const std::filesystem::path& path, const Progress& progress = nullptr);
+  // texts that start with the file's name; a project without a scenario is one.
+  explicit OpenProject(const std::filesystem::path& path, const Progress& progress = nullptr,
+                       Access access = Access::readOnly);
   ~OpenProject();
   OpenProject(const OpenProject&) = delete;
   OpenProject& operator=(const OpenProject&) = delete;

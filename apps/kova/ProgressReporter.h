@@ -16,8 +16,8 @@ class ProgressReporter {
   // opening and saving projects as (steps done, steps in all).
   enum class Form { percentage, steps };
 
-  // A callback for a task named label.
-  std::function<bool(long, long)> callback(const std::string& label, Form form);
+  // A callback for a task named fullLabel, cut to 60 bytes and "..." when longer.
+  std::function<bool(long, long)> callback(const std::string& fullLabel, Form form);
   // Ends the current bar's line, if one is drawn.
   void finish();
 

@@ -27,7 +27,9 @@ int RunCommand::run(const CommandLine& line, Console& console) {
   ProgressReporter progress(console, line.has("quiet"));
   Interrupt::Guard interruptible;
   OpenProject project(line.positional(0),
-                      progress.callback("opening", ProgressReporter::Form::steps));
+                      progress.callback("opening", ProgressReporter::Form::steps),
+                      line.has("no-save") ? OpenProject::Access::readOnly
+                                          : OpenProject::Access::readWrite);
   progress.finish();
   int status = exitOk;
   for (const auto& scenario : project.select(line.values("scenario"))) {

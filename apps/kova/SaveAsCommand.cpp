@@ -5,7 +5,6 @@
 #include "NewProjectTarget.h"
 #include "OpenProject.h"
 #include "ProgressReporter.h"
-#include "project/database/SaveProject.h"
 
 Command SaveAsCommand::describe() {
   return {"save-as",
@@ -24,13 +23,9 @@ int SaveAsCommand::run(const CommandLine& line, Console& console) {
   Interrupt::Guard interruptible;
   OpenProject project(line.positional(0),
                       progress.callback("opening", ProgressReporter::Form::steps));
-  if (!SaveProject::saveAs(target.string(),
-                           progress.callback("saving", ProgressReporter::Form::steps))) {
+  if (!NewProjectTarget::saveOpenProject(
+          target, progress.callback("saving", ProgressReporter::Form::steps))) {
     progress.finish();
-    // The target did not exist before: what the failed save left of it goes.
-    NewProjectTarget::discard(target);
-    if (!Interrupt::requested())
-      throw std::runtime_error(target.string() + ": could not be written");
     console.out << "save-as cancelled; " << line.positional(0) << " is as it was\n";
     return exitCancelled;
   }

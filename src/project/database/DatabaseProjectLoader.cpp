@@ -12,6 +12,8 @@
 void DatabaseProjectLoader::load(SQLite::Database& storage,
                                  const std::vector<std::shared_ptr<Scenario>>& scenarios,
                                  const std::function<bool(long, long)>& progress) {
+  // Nothing to fill: the database is not read, so that it may even lack the schema.
+  if (scenarios.empty()) return;
   const auto serieTypeIds = DatabaseSearch::getMapOfSerieWithUnitToDatabaseID(storage);
   for (const char* table : {"SerieInput", "SerieOutput"}) {
     requireKnownSerieTypes(storage, table, serieTypeIds);

@@ -1,0 +1,230 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "DemoProject.h"
+#include "NewProjectTarget.h"
+#include "support/FileText.h"
+#include "support/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// kova as its own process. As the super-user, asNobody runs it as the user nobody, to whom
+// permissions apply; killAfter, when set, ends it with signal after that many milliseconds.
+struct Outcome {
+  int status = -1;  // exit status, -1 when a signal ended it
+  std::string out, err;
+};
+
+Outcome kova(const std::vector<std::string>& args, bool asNobody = false, int signal = 0,
+             int killAfterMs = 0) {
+  int out[2], err[2];
+  if (pipe(out) != 0 || pipe(err) != 0) throw std::runtime_error("pipe");
+  const pid_t pid = fork();
+  if (pid == 0) {
+    constexpr uid_t kNobody = 65534;
+    if (asNobody && geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(126);
+    dup2(out[1], STDOUT_FILENO);
+    dup2(err[1], STDERR_FILENO);
+    std::vector<char*> argv{const_cast<char*>(KOVA_BINARY)};
+    for (const auto& arg : args) argv.push_back(const_cast<char*>(arg.c_str()));
+    argv.push_back(nullptr);
+    execv(KOVA_BINARY, argv.data());
+    _exit(127);
+  }
+  close(out[1]);
+  close(err[1]);
+  std::thread killer;
+  if (signal != 0) {
+    killer = std::thread([=] {
+      std::this_thread::sleep_for(std::chrono::milliseconds(killAfterMs));
+      kill(pid, signal);
+    });
+  }
+  Outcome run;
+  std::array<char, 4096> buffer{};
+  for (ssize_t got; (got = read(err[0], buffer.data(), buffer.size())) > 0;)
+    run.err.append(buffer.data(), got);
+  for (ssize_t got; (got = read(out[0], buffer.data(), buffer.size())) > 0;)
+    run.out.append(buffer.data(), got);
+  close(out[0]);
+  close(err[0]);
+  int raw = 0;
+  waitpid(pid, &raw, 0);
+  if (killer.joinable()) killer.join();
+  run.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  return run;
+}
+
+fs::path pathOf(const TemporaryFolder& folder) { return fs::path(folder.file("x")).parent_path(); }
+
+// The names of the files in folder.
+std::vector<std::string> filesIn(const fs::path& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename());
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// A folder everyone may enter and read, as the user nobody must.
+std::unique_ptr<TemporaryFolder> openFolder() {
+  auto folder = std::make_unique<TemporaryFolder>("kova_boundary_");
+  fs::permissions(pathOf(*folder), fs::perms::owner_all | fs::perms::group_read |
+                                       fs::perms::group_exec | fs::perms::others_read |
+                                       fs::perms::others_exec);
+  return folder;
+}
+
+void saveDemo(const std::string& path, unsigned int lastYear) {
+  ASSERT_TRUE(
+      NewProjectTarget::save(DemoProject::makeScenarios(KOVA_DEMO_DATA, lastYear), path, nullptr));
+}
+
+// Whether the process may mount a file system (the super-user in most containers).
+bool canMount(const fs::path& at, const std::string& size) {
+  return geteuid() == 0 && mount("tmpfs", at.c_str(), "tmpfs", 0, ("size=" + size).c_str()) == 0;
+}
+
+}  // namespace
+
+// A project whose files may not be written, and a folder where nothing may be created, are
+// still fully readable: every command that only reads works, and one that writes says which
+// file it cannot write.
+TEST(KovaBoundary, AReadOnlyProjectIsReadableByAnotherUser) {
+  const auto folder = openFolder();
+  const std::string project = folder->file("leitura.sjson");
+  saveDemo(project, 1932);
+  ASSERT_EQ(kova({"run", project, "--quiet", "--scenario", "Regras"}).status, 0);
+  const std::string before = readFile(project + ".sqlite");
+  for (const std::string& file : {project, project + ".sqlite"}) {
+    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  }
+  fs::permissions(pathOf(*folder), fs::perms::owner_read | fs::perms::owner_exec |
+                                       fs::perms::others_read | fs::perms::others_exec);
+  const std::vector<std::vector<std::string>> reads = {
+      {"info", project},
+      {"check", project},
+      {"metrics", project, "--scenario", "Regras"},
+      {"report", project, "--scenario", "Regras"},
+      {"run", project, "--no-save", "--quiet", "--scenario", "Regras"},
+  };
+  for (const auto& args : reads) {
+    SCOPED_TRACE(args[0]);
+    const Outcome run = kova(args, true);
+    EXPECT_EQ(run.status, 0) << run.err;
+  }
+  const Outcome writing = kova({"run", project, "--quiet"}, true);
+  EXPECT_EQ(writing.status, 2);
+  EXPECT_EQ(writing.err, "kova run: " + project + ": cannot be written (no write permission)\n");
+  fs::permissions(pathOf(*folder), fs::perms::owner_all);
+  EXPECT_EQ(readFile(project + ".sqlite"), before);
+  EXPECT_EQ(filesIn(pathOf(*folder)),
+            (std::vector<std::string>{"leitura.sjson", "leitura.sjson.sqlite"}));
+}
+
+TEST(KovaBoundary, ProjectsThatCannotBeReadAreOneLineAndCreateNothing) {
+  TemporaryFolder folder("kova_boundary_");
+  const std::string alone = folder.file("sozinho.sjson");
+  saveDemo(alone, 1931);
+  fs::remove(alone + ".sqlite");
+  const Outcome missing = kova({"info", alone});
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_EQ(missing.err, "kova info: " + alone + ".sqlite: no such project database\n");
+  EXPECT_FALSE(fs::exists(alone + ".sqlite"));
+
+  const std::string empty = folder.file("vazio.sjson");
+  writeFile(empty, "{\"scenarios\":[],\"project\":{}}");
+  writeFile(empty + ".sqlite", "");
+  const Outcome none = kova({"check", empty});
+  EXPECT_EQ(none.status, 2);
+  EXPECT_EQ(none.err, "kova check: " + empty + ": the project has no scenario\n");
+
+  const std::string cut = folder.file("cortado.sjson");
+  writeFile(cut, readFile(alone).substr(0, 300));
+  writeFile(cut + ".sqlite", "");
+  const Outcome broken = kova({"info", cut});
+  EXPECT_EQ(broken.status, 2);
+  EXPECT_EQ(broken.err.rfind("kova info: " + cut + ": not a JSON text: parse error at line 1", 0),
+            0u)
+      << broken.err;
+  EXPECT_EQ(std::count(broken.err.begin(), broken.err.end(), '\n'), 1);
+}
+
+// A save killed at any moment leaves the project complete or nothing under its names, and the
+// same command tried again succeeds.
+TEST(KovaBoundary, AKilledSaveLeavesNothingOrAProjectAndARetryWorks) {
+  TemporaryFolder folder("kova_boundary_");
+  const std::string source = folder.file("origem.sjson");
+  saveDemo(source, 1960);
+  for (const int ms : {0, 20, 60, 150, 400}) {
+    for (const std::string command : {"save-as", "new", "demo"}) {
+      SCOPED_TRACE(command + " killed after " + std::to_string(ms) + " ms");
+      const fs::path target = pathOf(folder) / (command + std::to_string(ms));
+      fs::create_directories(target);
+      const std::string project = (target / "alvo.sjson").string();
+      std::vector<std::string> args{command};
+      if (command == "save-as") args = {"save-as", source, project, "--quiet"};
+      if (command == "new") args = {"new", project};
+      if (command == "demo") args = {"demo", target.string(), "--until", "1940", "--quiet"};
+      const Outcome killed = kova(args, false, SIGKILL, ms);
+      const std::string written =
+          command == "demo" ? (target / "sao_francisco.sjson").string() : project;
+      if (fs::exists(written)) {
+        EXPECT_TRUE(fs::exists(written + ".sqlite"));
+        EXPECT_EQ(kova({"info", written}).status, 0);
+        continue;
+      }
+      EXPECT_FALSE(fs::exists(written + ".sqlite"));
+      const Outcome retry = kova(args);
+      EXPECT_EQ(retry.status, 0) << retry.err;
+      EXPECT_EQ(kova({"info", written}).status, 0);
+      // What the killed attempt left under its partial names went with the retry.
+      EXPECT_EQ(filesIn(target).size(), 2u);
+    }
+  }
+}
+
+TEST(KovaBoundary, CtrlCDuringTheDemoExitsThreeAndLeavesNothing) {
+  TemporaryFolder folder("kova_boundary_");
+  const Outcome interrupted = kova({"demo", pathOf(folder).string()}, false, SIGINT, 300);
+  if (interrupted.status == 0) GTEST_SKIP() << "the demo was written before the interrupt came";
+  EXPECT_EQ(interrupted.status, 3) << interrupted.err;
+  EXPECT_TRUE(filesIn(pathOf(folder)).empty());
+}
+
+// A disk that fills up is an error naming the file, with nothing of the attempt left behind.
+TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
+  TemporaryFolder folder("kova_boundary_");
+  const std::string source = folder.file("origem.sjson");
+  saveDemo(source, 1950);
+  ASSERT_EQ(kova({"run", source, "--quiet", "--scenario", "Regras"}).status, 0);
+  const fs::path disk = pathOf(folder) / "disco";
+  fs::create_directories(disk);
+  if (!canMount(disk, "64k")) GTEST_SKIP() << "a small tmpfs needs the super-user; not tested";
+  const Outcome saved = kova({"save-as", source, (disk / "copia.sjson").string(), "--quiet"});
+  EXPECT_EQ(saved.status, 2) << saved.err;
+  EXPECT_EQ(std::count(saved.err.begin(), saved.err.end(), '\n'), 1) << saved.err;
+  EXPECT_TRUE(filesIn(disk).empty());
+
+  const Outcome exported =
+      kova({"export", "csv", source, "--scenario", "Regras", "--out", disk.string()});
+  EXPECT_EQ(exported.status, 2) << exported.out;
+  EXPECT_NE(exported.err.find("erro ao escrever arquivo: " + disk.string()), std::string::npos)
+      << exported.err;
+  std::size_t files = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(disk)) files += entry.is_regular_file();
+  EXPECT_EQ(files, 0u);
+  umount(disk.c_str());
+}

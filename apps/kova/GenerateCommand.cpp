@@ -22,6 +22,12 @@ const std::map<std::string, GeneratedMode>& modes() {
   return names;
 }
 
+const std::map<std::string, GeneratedLayout>& layouts() {
+  static const std::map<std::string, GeneratedLayout> names = {{"tree", GeneratedLayout::tree},
+                                                               {"chain", GeneratedLayout::chain}};
+  return names;
+}
+
 // Writes the project file and its database; false when the saving was cancelled or the file
 // could not be written, nothing left behind then.
 bool save(const std::filesystem::path& target, const GeneratedProjectOptions& options,
@@ -43,7 +49,7 @@ bool save(const std::filesystem::path& target, const GeneratedProjectOptions& op
 Command GenerateCommand::describe() {
   return {"generate",
           "kova generate OUT.sjson --reservoirs N --demands M --periods T [--mode rule|priority] "
-          "[--seed S] [--quiet]",
+          "[--layout tree|chain] [--own-priorities] [--seed S] [--quiet]",
           "make a synthetic project of a chosen size",
           "Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
           "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
@@ -51,8 +57,16 @@ Command GenerateCommand::describe() {
           "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
           "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
           "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
+          "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
+          "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
+          "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
+          "demand has a priority of its own, upstream first (at most 98 of them).\n"
           "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n",
-          {{"reservoirs", "demands", "periods", "mode", "seed"}, {}, {"quiet"}, 1, 1},
+          {{"reservoirs", "demands", "periods", "mode", "layout", "seed"},
+           {},
+           {"quiet", "own-priorities"},
+           1,
+           1},
           run};
 }
 
@@ -61,12 +75,29 @@ GeneratedProjectOptions GenerateCommand::optionsOf(const CommandLine& line) {
   options.reservoirs = bounded(line, "reservoirs", 1, kMaxReservoirs);
   options.demands = bounded(line, "demands", 0, kMaxDemands);
   options.periods = bounded(line, "periods", 1, kMaxPeriods);
-  const std::string mode = line.value("mode", "rule");
+  const std::string layout = line.value("layout", "tree");
+  const auto shape = layouts().find(layout);
+  if (shape == layouts().end()) {
+    throw UsageError("option --layout: \"" + layout + "\" is neither tree nor chain");
+  }
+  options.layout = shape->second;
+  const bool chain = options.layout == GeneratedLayout::chain;
+  const std::string mode = line.value("mode", chain ? "priority" : "rule");
   const auto found = modes().find(mode);
   if (found == modes().end()) {
     throw UsageError("option --mode: \"" + mode + "\" is neither rule nor priority");
   }
   options.mode = found->second;
+  if (chain && options.mode != GeneratedMode::priority) {
+    throw UsageError("option --mode: a chain is operated by priorities");
+  }
+  options.ownPriorities = line.has("own-priorities");
+  if (options.ownPriorities && !chain) {
+    throw UsageError("option --own-priorities: only with --layout chain");
+  }
+  if (options.ownPriorities && options.reservoirs + options.demands > 98) {
+    throw UsageError("option --own-priorities: at most 98 reservoirs and demands");
+  }
   options.seed = line.number("seed", 1, 0);
   return options;
 }
@@ -97,6 +128,9 @@ int GenerateCommand::run(const CommandLine& line, Console& console) {
   }
   console.out << "generated " << target.string() << ": " << options.reservoirs << " reservoirs, "
               << options.demands << " demands, " << options.periods << " months, "
-              << line.value("mode", "rule") << " mode, seed " << options.seed << '\n';
+              << (options.mode == GeneratedMode::rule ? "rule" : "priority") << " mode, "
+              << (options.layout == GeneratedLayout::chain ? "chain, " : "")
+              << (options.ownPriorities ? "priorities of their own, " : "") << "seed "
+              << options.seed << '\n';
   return exitOk;
 }

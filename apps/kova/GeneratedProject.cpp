@@ -52,6 +52,17 @@ constexpr unsigned int kCavRows = 8;
 // Reservoirs take priorities 10 to 14, after every demand.
 constexpr unsigned int kReservoirPriority = 10;
 constexpr unsigned int kReservoirPriorityLevels = 5;
+// The chain: a seven-year cycle of wet and dry years, demands that swing ±30 % with the seasons,
+// all reservoirs after the three priorities of the demands.
+constexpr double kTwoPi = 6.283185307179586;
+constexpr double kChainCycleYears = 7.0;
+constexpr double kChainCycleDepth = 0.3;
+constexpr double kChainNoise = 0.2;
+constexpr double kChainDemandSwing = 0.3;
+constexpr double kChainTarget = 0.9;              // of the maximum volume
+constexpr double kChainRiverLimit = 100000.0;     // m³/s, never reached
+constexpr unsigned int kChainReservoirPriority = 4;
+constexpr unsigned int kMostOwnPriorities = 98;  // 1 to 98, below the drain's 99
 
 // What each kind of demand is like. Towns and industries return what they do not consume; the
 // little that fields and herds return is left out.
@@ -248,6 +259,17 @@ std::shared_ptr<Scenario> GeneratedProject::make(const Options& options) {
   if (options.periods == 0) {
     throw std::invalid_argument("GeneratedProject::make(): at least one period");
   }
+  const bool chain = options.layout == GeneratedLayout::chain;
+  if (chain && options.mode != GeneratedMode::priority) {
+    throw std::invalid_argument("GeneratedProject::make(): a chain is operated by priorities");
+  }
+  if (options.ownPriorities && !chain) {
+    throw std::invalid_argument("GeneratedProject::make(): priorities of their own only in a chain");
+  }
+  if (options.ownPriorities && options.reservoirs + options.demands > kMostOwnPriorities) {
+    throw std::invalid_argument(
+        "GeneratedProject::make(): at most 98 reservoirs and demands with priorities of their own");
+  }
   GeneratedProject project(options);
   return project.scenario;
 }
@@ -255,6 +277,10 @@ std::shared_ptr<Scenario> GeneratedProject::make(const Options& options) {
 GeneratedProject::GeneratedProject(const Options& options)
     : options(options), random(options.seed) {
   makeScenario();
+  if (options.layout == GeneratedLayout::chain) {
+    makeChain();
+    return;
+  }
   layOutSites();
   chooseYearFactors();
   makeNodes();
@@ -279,6 +305,85 @@ void GeneratedProject::makeScenario() {
     scenario = std::make_shared<RuleScenario>(method, 1, interval, "Regras");
   } else {
     scenario = std::make_shared<PriorityScenario>(method, 1, interval, "Prioridades");
+  }
+}
+
+void GeneratedProject::makeChain() {
+  drain = node(ElementType::drain, {0.3 * options.reservoirs, 0.0});
+  for (unsigned int i = 0; i < options.reservoirs; ++i) makeChainReservoir(i);
+  for (unsigned int i = 0; i < options.reservoirs; ++i) {
+    const std::shared_ptr<Node> below =
+        i + 1 < options.reservoirs ? std::static_pointer_cast<Node>(chain[i + 1]) : drain;
+    link(chain[i], below, ElementType::naturalLink, kChainRiverLimit, 0.0);
+  }
+  for (unsigned int j = 0; j < options.demands; ++j) makeChainDemand(j);
+  fillDrain();
+  prioritiseChain();
+}
+
+// Volumes of the chain are in hm³ a month; the inflow series holds m³/s.
+void GeneratedProject::makeChainReservoir(unsigned int index) {
+  const auto reservoir =
+      std::static_pointer_cast<Reservoir>(node(ElementType::reservoir, {0.3 * index, 0.0}));
+  const double mean = 100.0 + 20.0 * (index % 5);  // hm³ a month
+  ReservoirInfo& info = reservoir->getReservoirInfo();
+  info.maxVol = 6.0 * mean;
+  info.minVol = 0.1 * info.maxVol;
+  info.initVol = 0.5 * info.maxVol;
+  makeCav(*reservoir, info.maxVol);
+  reservoir->getInputSerie(SerieType::evaporation)->fill(0.0);
+  reservoir->getInputSerie(SerieType::precipitation)->fill(0.0);
+  reservoir->getInputSerie(SerieType::targetVolume)->fill(kChainTarget);
+  const auto inflow = reservoir->getInputSerie(SerieType::naturalIncrementalFlow);
+  PeriodWalker::forEach(scenario->getInterval(), [&](const Date& date) {
+    const double cycle = 1.0 + kChainCycleDepth * std::sin(kTwoPi * (date.getYear() - 1901) /
+                                                           kChainCycleYears);
+    const double noise = std::max(0.0, 1.0 + kChainNoise * random.normal());
+    inflow->setValue(date,
+                     mean / kHm3PerMonthOfOneM3s * monthly(kInflowSeason, date) * cycle * noise);
+  });
+  chain.push_back(reservoir);
+}
+
+void GeneratedProject::makeChainDemand(unsigned int index) {
+  const unsigned int site = index % options.reservoirs;
+  const unsigned int sharing =
+      options.demands / options.reservoirs + (site < options.demands % options.reservoirs ? 1 : 0);
+  const double mean = 0.9 * (100.0 + 20.0 * (site % 5)) / sharing / kHm3PerMonthOfOneM3s;  // m³/s
+  const auto demand = std::static_pointer_cast<Demand>(
+      node(demandKinds()[index % demandKinds().size()].type, {0.3 * site, -0.1 * (1 + index)}));
+  link(chain[site], demand, ElementType::artificialLink, 1.2 * mean, 0.0);
+  const auto serie = demand->getInputSerie(SerieType::demand);
+  PeriodWalker::forEach(scenario->getInterval(), [&](const Date& date) {
+    const double season = std::sin(kTwoPi * (date.getMonth() - 1) / 12.0);
+    serie->setValue(date, mean * (1.0 + kChainDemandSwing * season));
+  });
+  GeneratedDemand made;
+  made.demand = demand;
+  made.site = site;
+  demands.push_back(made);
+}
+
+// With priorities of their own, the reaches come from the head down, each with its demands
+// first and then its reservoir.
+void GeneratedProject::prioritiseChain() {
+  const auto give = [this](const std::shared_ptr<Element>& element, unsigned int priority,
+                           const std::shared_ptr<Serie>& goal) {
+    auto own = Scenario::getSettings<PrioritySettings>(element, scenario->getSettingsManager());
+    own->setPriority(priority);
+    own->copyPriority();
+    own->setValueHydrologicalStateSerie(goal);
+  };
+  unsigned int next = 1;
+  for (unsigned int site = 0; site < chain.size(); ++site) {
+    for (unsigned int j = 0; j < demands.size(); ++j) {
+      if (demands[j].site != site) continue;
+      const auto& demand = demands[j].demand;
+      give(demand, options.ownPriorities ? next++ : 1 + j % 3,
+           demand->getInputSerie(SerieType::demand));
+    }
+    give(chain[site], options.ownPriorities ? next++ : kChainReservoirPriority,
+         chain[site]->getInputSerie(SerieType::targetVolume));
   }
 }
 

@@ -14,6 +14,9 @@
 // How a generated scenario is operated.
 enum class GeneratedMode { rule, priority };
 
+// The shape of a generated network: a basin of tributaries, or one river of lakes in a row.
+enum class GeneratedLayout { tree, chain };
+
 // What to generate.
 struct GeneratedProjectOptions {
   unsigned int reservoirs = 5;
@@ -21,6 +24,9 @@ struct GeneratedProjectOptions {
   unsigned int periods = 1200;  // months, from January 1901
   GeneratedMode mode = GeneratedMode::rule;
   std::uint64_t seed = 1;
+  GeneratedLayout layout = GeneratedLayout::tree;
+  // In a chain: every reservoir and demand a priority of its own, upstream first.
+  bool ownPriorities = false;
 };
 
 // A synthetic but plausible river basin, for benchmarks and for trying the program out.
@@ -41,6 +47,15 @@ struct GeneratedProjectOptions {
 // priorities by kind (a demand that returns water never comes after what lies below it) and
 // reservoirs seasonal target volumes at lower priorities.
 //
+// The chain layout is the benchmark network of priority runs: reservoir i (from 0, at the head)
+// flows into reservoir i + 1 by a natural link and the last one into the drain. Reservoir i has a
+// mean natural inflow m = 100 + 20 (i mod 5) hm³ a month (seasonal, in a seven-year cycle, with
+// noise, never negative), holds up to 6 m, at least a tenth of that, starts half full and has no
+// evaporation or rain. Demand j draws from reservoir j mod N through a canal of capacity 1.2 d,
+// d being 0.9 m shared among the demands of that reservoir, ±30 % with the seasons. Demands take
+// priorities 1 + (j mod 3) and the reservoirs 4, after them; with ownPriorities each reach, from
+// the head down, gives its demands and then its reservoir the next priority.
+//
 // The random numbers are the raw output of std::mt19937_64, turned into numbers here with
 // arithmetic alone, so that one seed gives one project on every platform.
 class GeneratedProject {
@@ -48,7 +63,9 @@ class GeneratedProject {
   using Options = GeneratedProjectOptions;
 
   // The scenario (not yet in the ScenarioManager). Throws std::invalid_argument
-  // "GeneratedProject::make(): at least one reservoir" or "... at least one period".
+  // "GeneratedProject::make(): at least one reservoir", "... at least one period",
+  // "... a chain is operated by priorities", "... priorities of their own only in a chain" or
+  // "... at most 98 reservoirs and demands with priorities of their own".
   [[nodiscard]] static std::shared_ptr<Scenario> make(const Options& options);
 
  private:
@@ -90,6 +107,10 @@ class GeneratedProject {
   explicit GeneratedProject(const Options& options);
 
   void makeScenario();
+  void makeChain();
+  void makeChainReservoir(unsigned int index);
+  void makeChainDemand(unsigned int index);
+  void prioritiseChain();
   void layOutSites();
   void chooseYearFactors();
   void makeNodes();
@@ -127,4 +148,5 @@ class GeneratedProject {
   std::vector<GeneratedDemand> demands;
   std::shared_ptr<Node> drain;
   std::vector<double> regionalYears;  // factor of the inflows of each year
+  std::vector<std::shared_ptr<Reservoir>> chain;  // in a chain, from the head down
 };

@@ -15,6 +15,14 @@ struct _lprec;
 // the bounds of each column as rows of their own (at most its upper value unless that is
 // unlimited, then at least its lower value), except for the columns whose names end in "volGoal"
 // or "_s", which rest on lp_solve's default bounds (0 to infinity).
+//
+// The lp_solve model of one solve is kept for the next. When the next programme has the same
+// columns, the same coefficients in the same rows and the same objective, and differs only in the
+// values and kinds of its rows (as the passes of one date do, and often the dates of a run), the
+// kept model is changed in place and solved again from lp_solve's starting basis; otherwise it is
+// made anew. Either way lp_solve scales the same matrix and starts from the same basis, so the
+// solution is the one a new model gives, to the last bit; only the making of the model, and
+// lp_solve's search for a BLAS library that comes with it, are saved.
 class KLPKRepresentation {
  public:
   enum KLPK_OPT_DIRECTION_FLAG { KLPK_MAX = 0, KLPK_MIN = 1 };
@@ -60,6 +68,14 @@ class KLPKRepresentation {
   // Solves the programme with lp_solve and keeps the solution in each column: 0 when an optimal
   // solution was found, 1 otherwise (the columns then keep their previous values).
   int executeSimplex();
+  // Takes over the lp_solve model that other keeps, so that a programme of the same shape solved
+  // here next reuses it; other keeps its own columns and solution but can no longer write them.
+  void adoptKeptModel(KLPKRepresentation& other);
+
+  // How many programmes executeSimplex() has handed to lp_solve in this process, and the seconds
+  // spent inside lp_solve's solve() for them.
+  static unsigned long long solvesInProcess();
+  static double solverSecondsInProcess();
   // The objective value of the last optimal solution.
   double getValueOfOptimizationFound() const { return valueOfOptimizationFound; }
   // Writes the last solved programme in lp_solve's LP format / its solution, one line per
@@ -68,11 +84,28 @@ class KLPKRepresentation {
   bool printSolution(const std::string& fileName) const;
 
  private:
+  // A row as lp_solve receives it: its kind (lp_solve's LE, GE or EQ), its value and its terms,
+  // with columns from 1.
+  struct HandedRow {
+    int type = 0;
+    double value = 0.0;
+    std::vector<int> colno;
+    std::vector<double> coefs;
+  };
+
   int verbosity() const;
+  // Fills pending with every row lp_solve is to receive, model rows first, then bound rows.
+  void collectHandedRows();
+  void collectModelRows(std::size_t& count);
+  void collectBoundRows(std::size_t& count);
+  HandedRow& nextHandedRow(std::size_t& count);
+  static void sortByColumn(HandedRow& row);
+  // Whether the kept model differs from pending in nothing but the values and kinds of rows.
+  bool keptModelFits() const;
+  void updateKeptModel();
   // The programme as lp_solve takes it; null when lp_solve cannot make one.
-  _lprec* produceLPrecPointerUsingMemory() const;
-  bool addModelRows(_lprec* lp) const;
-  bool addBoundRows(_lprec* lp) const;
+  _lprec* produceLPrecPointerUsingMemory();
+  void setDirection(_lprec* target) const;
   void readSolution();
   void deleteLPrec();
 
@@ -85,5 +118,11 @@ class KLPKRepresentation {
   std::unordered_map<std::string, int> variableIndex;
   double valueOfOptimizationFound = 0.0;
   _lprec* lp = nullptr;
+  // What the kept model holds (empty when it may not be reused), and what the next solve hands.
+  std::vector<HandedRow> handed, pending;
+  bool keptModelReusable = false;
+  std::vector<std::string> handedNames;
+  std::vector<double> handedObjective;
+  KLPK_OPT_DIRECTION_FLAG handedDirection = KLPK_MAX;
   KLPK_TERMINAL_OUTPUT klpkTerminalOutput = KLPK_OFF;
 };

@@ -121,6 +121,9 @@ class NetworkFlow {
 
   // The programme of the last pass.
   const KLPKRepresentation& getProblem() const { return *problem; }
+  // Takes over the solver's model that the network flow of the previous date keeps, so that
+  // this date's passes reuse it where their programmes have its shape.
+  void adoptSolverModel(NetworkFlow& previous) { problem->adoptKeptModel(*previous.problem); }
 
  protected:
   // The value of a junction's row, to which terms may be added first; 0.0 here.

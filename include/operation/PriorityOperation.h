@@ -28,7 +28,8 @@ class PriorityOperation : public OperationSystem {
   // restored, when the turned network has a loop, and NetworkFlow::NetflowOptimalException when a
   // pass has no optimal solution; the date then has no results and its links stay turned.
   void runModel() override;
-  // A new model for the current date, window and interval.
+  // A new model for the current date, window and interval; it keeps the solver's model of the
+  // last date for reuse.
   void setNetworkFlow();
 
   // Writes, at the current date, each enabled reservoir's "Prioridade" and "Volume meta" and each

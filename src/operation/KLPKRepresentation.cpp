@@ -2,13 +2,19 @@
 
 #include <lpsolve/lp_lib.h>
 
+#include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <stdexcept>
+#include <utility>
 
 #include "common/NumericalUtils.h"
 #include "common/StringUtils.h"
 
 namespace {
+
+std::atomic<unsigned long long> solveCount{0};
+std::atomic<unsigned long long> solverNanoseconds{0};
 
 // lp_solve takes names as mutable C strings.
 std::vector<char> cString(const std::string& text) {
@@ -33,12 +39,6 @@ int constraintType(int typeOfBound) {
     default:
       return -1;
   }
-}
-
-bool addSingleTermRow(lprec* lp, int column, int type, double value) {
-  double one = 1.0;
-  int colno = column + 1;
-  return add_constraintex(lp, 1, &one, &colno, type, value) == TRUE;
 }
 
 template <typename Items>
@@ -115,30 +115,57 @@ void KLPKRepresentation::deleteLPrec() {
   lp = nullptr;
 }
 
+void KLPKRepresentation::collectHandedRows() {
+  std::size_t count = 0;
+  collectModelRows(count);
+  collectBoundRows(count);
+  pending.resize(count);
+}
+
+KLPKRepresentation::HandedRow& KLPKRepresentation::nextHandedRow(std::size_t& count) {
+  if (count == pending.size()) pending.emplace_back();
+  return pending[count++];
+}
+
+// lp_solve sorts the terms of a row it receives by column, in the caller's arrays; they are
+// handed over sorted, so that what it kept can be compared with the next programme.
+void KLPKRepresentation::sortByColumn(HandedRow& row) {
+  for (std::size_t next = 1; next < row.colno.size(); ++next) {
+    for (std::size_t at = next; at > 0 && row.colno[at - 1] > row.colno[at]; --at) {
+      std::swap(row.colno[at - 1], row.colno[at]);
+      std::swap(row.coefs[at - 1], row.coefs[at]);
+    }
+  }
+}
+
 // Row values are cut at the near-maximum double, which lp_solve reads as infinite.
-bool KLPKRepresentation::addModelRows(lprec* target) const {
+void KLPKRepresentation::collectModelRows(std::size_t& count) {
   const double clamp = NumericalUtils::getNearMaxDouble();
-  std::vector<int> colno;
   for (const KLPKRow& row : rows) {
     const int type = constraintType(row.typeOfBound);
     if (type < 0) continue;
-    colno.assign(row.variablesIDs.begin(), row.variablesIDs.end());
-    for (int& column : colno) ++column;
-    const double value = row.upper > clamp ? clamp : row.upper;
-    if (add_constraintex(target, static_cast<int>(colno.size()),
-                         const_cast<double*>(row.coefs.data()), colno.data(), type,
-                         value) != TRUE) {
-      return false;
-    }
+    HandedRow& target = nextHandedRow(count);
+    target.type = type;
+    target.value = row.upper > clamp ? clamp : row.upper;
+    target.colno.assign(row.variablesIDs.begin(), row.variablesIDs.end());
+    for (int& column : target.colno) ++column;
+    target.coefs.assign(row.coefs.begin(), row.coefs.end());
+    sortByColumn(target);
   }
-  return true;
 }
 
 // The bounds of a column as rows: at most its upper value unless that is "no limit", then at
 // least its lower value. A fixed column uses its value for both, and an upper-bounded one 0.0
 // below.
-bool KLPKRepresentation::addBoundRows(lprec* target) const {
+void KLPKRepresentation::collectBoundRows(std::size_t& count) {
   const double clamp = NumericalUtils::getNearMaxDouble();
+  const auto addSingleTerm = [&](int column, int type, double value) {
+    HandedRow& target = nextHandedRow(count);
+    target.type = type;
+    target.value = value;
+    target.colno.assign(1, column + 1);
+    target.coefs.assign(1, 1.0);
+  };
   for (int column = 0; column < getNumberOfVariables(); ++column) {
     const KLPKVariable& variable = variables[static_cast<std::size_t>(column)];
     if (!hasBoundRows(variable.variableName)) continue;
@@ -147,15 +174,52 @@ bool KLPKRepresentation::addBoundRows(lprec* target) const {
     if (variable.typeOfBound == kFixedBound) lower = upper;
     if (variable.typeOfBound == kUpperBound) lower = 0.0;
     if (variable.typeOfBound == kLowerBound) upper = NumericalUtils::getMaxDouble();
-    if (upper < clamp && !addSingleTermRow(target, column, LE, upper)) return false;
-    if (!addSingleTermRow(target, column, GE, lower)) return false;
+    if (upper < clamp) addSingleTerm(column, LE, upper);
+    addSingleTerm(column, GE, lower);
+  }
+}
+
+// lp_solve scales a model from its coefficients and objective alone, so a kept model with the
+// same ones solves as a new one once its row values and kinds are set and its basis reset.
+bool KLPKRepresentation::keptModelFits() const {
+  if (lp == nullptr || !keptModelReusable || handed.size() != pending.size() ||
+      objective != handedObjective || klpkOptDirectionFlag != handedDirection) {
+    return false;
+  }
+  if (static_cast<int>(handedNames.size()) != getNumberOfVariables()) return false;
+  for (std::size_t column = 0; column < handedNames.size(); ++column) {
+    if (handedNames[column] != variables[column].variableName) return false;
+  }
+  for (std::size_t row = 0; row < pending.size(); ++row) {
+    if (pending[row].colno != handed[row].colno || pending[row].coefs != handed[row].coefs) {
+      return false;
+    }
   }
   return true;
 }
 
+void KLPKRepresentation::updateKeptModel() {
+  for (std::size_t row = 0; row < pending.size(); ++row) {
+    const int rownr = static_cast<int>(row) + 1;
+    if (pending[row].type != handed[row].type) set_constr_type(lp, rownr, pending[row].type);
+    if (pending[row].value != handed[row].value) set_rh(lp, rownr, pending[row].value);
+  }
+  default_basis(lp);
+}
+
+void KLPKRepresentation::setDirection(lprec* target) const {
+  if (klpkOptDirectionFlag == KLPK_MAX) {
+    set_maxim(target);
+  } else {
+    set_minim(target);
+  }
+}
+
 // The rows are added in row mode, bound rows last, and the objective after them: the programme
 // is the same as when the bound rows follow the objective, and lp_solve builds it in one pass.
-lprec* KLPKRepresentation::produceLPrecPointerUsingMemory() const {
+// A model that lp_solve took only in part is not kept for reuse.
+lprec* KLPKRepresentation::produceLPrecPointerUsingMemory() {
+  keptModelReusable = false;
   lprec* made = make_lp(0, getNumberOfVariables());
   if (made == nullptr) return nullptr;
   set_verbose(made, verbosity());
@@ -164,7 +228,14 @@ lprec* KLPKRepresentation::produceLPrecPointerUsingMemory() const {
     set_col_name(made, column + 1, name.data());
   }
   set_add_rowmode(made, TRUE);
-  const bool complete = addModelRows(made) && addBoundRows(made);
+  bool complete = true;
+  for (HandedRow& row : pending) {
+    if (add_constraintex(made, static_cast<int>(row.colno.size()), row.coefs.data(),
+                         row.colno.data(), row.type, row.value) != TRUE) {
+      complete = false;
+      break;
+    }
+  }
   set_add_rowmode(made, FALSE);
   if (complete) {
     std::vector<int> colno;
@@ -174,23 +245,62 @@ lprec* KLPKRepresentation::produceLPrecPointerUsingMemory() const {
       colno.push_back(column + 1);
       values.push_back(objective[static_cast<std::size_t>(column)]);
     }
-    set_obj_fnex(made, static_cast<int>(colno.size()), values.data(), colno.data());
+    complete = set_obj_fnex(made, static_cast<int>(colno.size()), values.data(), colno.data()) ==
+               TRUE;
   }
-  if (klpkOptDirectionFlag == KLPK_MAX) {
-    set_maxim(made);
-  } else {
-    set_minim(made);
-  }
+  setDirection(made);
   set_verbose(made, verbosity());
+  if (complete) {
+    keptModelReusable = true;
+    handedDirection = klpkOptDirectionFlag;
+    handed.swap(pending);
+    handedObjective = objective;
+    handedNames.clear();
+    for (const KLPKVariable& variable : variables) handedNames.push_back(variable.variableName);
+  }
   return made;
 }
 
 int KLPKRepresentation::executeSimplex() {
-  deleteLPrec();
-  lp = produceLPrecPointerUsingMemory();
-  if (lp == nullptr || solve(lp) != OPTIMAL) return 1;
+  collectHandedRows();
+  if (keptModelFits()) {
+    updateKeptModel();
+    handed.swap(pending);
+  } else {
+    deleteLPrec();
+    lp = produceLPrecPointerUsingMemory();
+  }
+  if (lp == nullptr) return 1;
+  const auto start = std::chrono::steady_clock::now();
+  const int status = solve(lp);
+  solverNanoseconds += static_cast<unsigned long long>(
+      std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now() - start)
+          .count());
+  ++solveCount;
+  if (status != OPTIMAL) {
+    keptModelReusable = false;
+    return 1;
+  }
   readSolution();
   return 0;
+}
+
+void KLPKRepresentation::adoptKeptModel(KLPKRepresentation& other) {
+  if (&other == this) return;
+  deleteLPrec();
+  std::swap(lp, other.lp);
+  keptModelReusable = other.keptModelReusable;
+  other.keptModelReusable = false;
+  handed.swap(other.handed);
+  handedNames.swap(other.handedNames);
+  handedObjective.swap(other.handedObjective);
+  handedDirection = other.handedDirection;
+}
+
+unsigned long long KLPKRepresentation::solvesInProcess() { return solveCount; }
+
+double KLPKRepresentation::solverSecondsInProcess() {
+  return static_cast<double>(solverNanoseconds.load()) * 1e-9;
 }
 
 // lp_solve keeps the columns in the order they were made, so column j is variable j.

@@ -29,9 +29,13 @@ void PriorityOperation::postProcessing(const Callback& callback) {
   OperationSystem::postProcessing(callback);
 }
 
+// The lp_solve model of the last date passes to the next one: dates of the same shape solve
+// without making a new one.
 void PriorityOperation::setNetworkFlow() {
-  networkFlow = std::make_shared<NetworkFlow>(getSettingsManager(), getDate(), getInterval(),
-                                              hydrologicalStateCalculator, getWindowIndex());
+  auto next = std::make_shared<NetworkFlow>(getSettingsManager(), getDate(), getInterval(),
+                                            hydrologicalStateCalculator, getWindowIndex());
+  if (networkFlow) next->adoptSolverModel(*networkFlow);
+  networkFlow = next;
 }
 
 void PriorityOperation::runModel() {

@@ -78,6 +78,28 @@ Scenario::Elements reservoirsOf(const Scenario& scenario) {
   return ElementsFilter::filterByType(scenario.getElements(), {ElementType::reservoir});
 }
 
+Scenario::Elements demandsOf(const Scenario& scenario) {
+  return ElementsFilter::filterByType(
+      scenario.getElements(), {ElementType::humanDemand, ElementType::animalDemand,
+                               ElementType::industrialDemand, ElementType::irrigationDemand});
+}
+
+unsigned int priorityOf(const Scenario& scenario, const std::shared_ptr<Element>& element) {
+  return Scenario::getSettings<PrioritySettings>(element, scenario.getSettingsManager())
+      ->getPriority();
+}
+
+GeneratedProjectOptions chainOf(unsigned int reservoirs, unsigned int demands, bool own) {
+  GeneratedProjectOptions options;
+  options.reservoirs = reservoirs;
+  options.demands = demands;
+  options.periods = 24;
+  options.mode = GeneratedMode::priority;
+  options.layout = GeneratedLayout::chain;
+  options.ownPriorities = own;
+  return options;
+}
+
 // For every reservoir and date: initial + inflows + rain - evaporation - release - spill =
 // final, within 1e-6 of the largest of those volumes. Gives the number of spills.
 std::size_t expectConservation(const Scenario& scenario) {
@@ -229,6 +251,16 @@ TEST_F(GeneratedProjectTest, BadOptionsAreRefusedWithTheirTexts) {
        "option --mode: \"rules\" is neither rule nor priority"},
       {{"--reservoirs", "1", "--demands", "1", "--periods", "1", "--seed", "1.5"},
        "option --seed: \"1.5\" is not a whole number of at least 0"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "1", "--layout", "ring"},
+       "option --layout: \"ring\" is neither tree nor chain"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "1", "--layout", "chain", "--mode",
+        "rule"},
+       "option --mode: a chain is operated by priorities"},
+      {{"--reservoirs", "1", "--demands", "1", "--periods", "1", "--own-priorities"},
+       "option --own-priorities: only with --layout chain"},
+      {{"--reservoirs", "50", "--demands", "49", "--periods", "1", "--layout", "chain",
+        "--own-priorities"},
+       "option --own-priorities: at most 98 reservoirs and demands"},
   };
   for (const auto& [options, text] : cases) {
     SCOPED_TRACE(text);
@@ -247,6 +279,91 @@ TEST_F(GeneratedProjectTest, BadOptionsAreRefusedWithTheirTexts) {
   instant.periods = 0;
   EXPECT_THROW_TEXT((void)GeneratedProject::make(instant), std::invalid_argument,
                     "GeneratedProject::make(): at least one period");
+  auto ruledChain = small(GeneratedMode::rule);
+  ruledChain.layout = GeneratedLayout::chain;
+  EXPECT_THROW_TEXT((void)GeneratedProject::make(ruledChain), std::invalid_argument,
+                    "GeneratedProject::make(): a chain is operated by priorities");
+  auto ownTree = small(GeneratedMode::priority);
+  ownTree.ownPriorities = true;
+  EXPECT_THROW_TEXT((void)GeneratedProject::make(ownTree), std::invalid_argument,
+                    "GeneratedProject::make(): priorities of their own only in a chain");
+  auto crowded = chainOf(50, 49, true);
+  EXPECT_THROW_TEXT(
+      (void)GeneratedProject::make(crowded), std::invalid_argument,
+      "GeneratedProject::make(): at most 98 reservoirs and demands with priorities of their own");
+}
+
+// Reservoir i: m = 100 + 20 (i mod 5) hm³ a month, capacity 6 m, minimum a tenth of that, half
+// full at the start. Demands 0 and 3 share reservoir 0, 1 and 4 reservoir 1, 2 is alone at
+// reservoir 2; demand j has priority 1 + (j mod 3), reservoirs 4. The drain keeps its 99.
+TEST_F(GeneratedProjectTest, AChainHasTheBenchmarkShapeVolumesAndPriorities) {
+  const auto scenario = GeneratedProject::make(chainOf(3, 5, false));
+  const auto reservoirs = reservoirsOf(*scenario);
+  ASSERT_EQ(reservoirs.size(), 3u);
+  const std::vector<double> capacities = {600.0, 720.0, 840.0};  // 6 x 100, 6 x 120, 6 x 140
+  for (std::size_t i = 0; i < 3; ++i) {
+    const auto reservoir = std::static_pointer_cast<Reservoir>(reservoirs[i]);
+    const ReservoirInfo& info = reservoir->getReservoirInfo();
+    EXPECT_DOUBLE_EQ(info.maxVol, capacities[i]);
+    EXPECT_DOUBLE_EQ(info.minVol, 0.1 * capacities[i]);
+    EXPECT_DOUBLE_EQ(info.initVol, 0.5 * capacities[i]);
+    ASSERT_EQ(reservoir->getDownstreamLinks().size(), i == 0 ? 3u : (i == 1 ? 3u : 2u));
+    EXPECT_EQ(reservoir->getDownstreamLinks().front()->getDownstream()->getType(),
+              i < 2 ? ElementType::reservoir : ElementType::drain);
+    EXPECT_EQ(priorityOf(*scenario, reservoir), 4u);
+  }
+  const auto demands = demandsOf(*scenario);
+  ASSERT_EQ(demands.size(), 5u);
+  const std::vector<unsigned int> priorities = {1, 2, 3, 1, 2};
+  for (std::size_t j = 0; j < demands.size(); ++j) {
+    EXPECT_EQ(priorityOf(*scenario, demands[j]), priorities[j]) << j;
+  }
+  // Demand 0: d = 0.9 x 100 / 2 = 45 hm³ a month, or 45 / 2.628 m³/s; its canal takes 1.2 d.
+  const auto canal =
+      std::static_pointer_cast<Node>(demands[0])->getUpstreamLinks().front();
+  EXPECT_EQ(canal->getUpstream(), reservoirs[0]);
+  EXPECT_NEAR(canal->getInputSerie(SerieType::linkLimit)->getValue(Date(1901, 1, 1)),
+              1.2 * 45.0 / 2.628, 1e-12);
+  // January is the middle of the seasons of a demand: sin 0 = 0.
+  EXPECT_NEAR(demands[0]->getInputSerie(SerieType::demand)->getValue(Date(1901, 1, 1)),
+              45.0 / 2.628, 1e-12);
+  // April is the top: 1.3 d.
+  EXPECT_NEAR(demands[0]->getInputSerie(SerieType::demand)->getValue(Date(1901, 4, 1)),
+              1.3 * 45.0 / 2.628, 1e-12);
+  ASSERT_TRUE(scenario->run(nullptr));
+  EXPECT_EQ(scenario->getSceneryStatus().getType(), SceneryStatus::success);
+  expectConservation(*scenario);
+}
+
+// Head reach first: demands 0 and 3, then reservoir 0; demands 1 and 4, reservoir 1; demand 2,
+// reservoir 2.
+TEST_F(GeneratedProjectTest, OwnPrioritiesGoDownTheChainDemandsBeforeTheirReservoir) {
+  const auto scenario = GeneratedProject::make(chainOf(3, 5, true));
+  const auto reservoirs = reservoirsOf(*scenario);
+  const auto demands = demandsOf(*scenario);
+  const std::vector<unsigned int> demandPriorities = {1, 4, 7, 2, 5};
+  const std::vector<unsigned int> reservoirPriorities = {3, 6, 8};
+  for (std::size_t j = 0; j < demands.size(); ++j) {
+    EXPECT_EQ(priorityOf(*scenario, demands[j]), demandPriorities[j]) << j;
+  }
+  for (std::size_t i = 0; i < reservoirs.size(); ++i) {
+    EXPECT_EQ(priorityOf(*scenario, reservoirs[i]), reservoirPriorities[i]) << i;
+  }
+  ASSERT_TRUE(scenario->run(nullptr));
+  expectConservation(*scenario);
+}
+
+TEST_F(GeneratedProjectTest, TheChainIsGeneratedFromTheCommandLine) {
+  const std::string path = folder.file("chain.sjson");
+  const auto made = kova({"generate", path, "--reservoirs", "2", "--demands", "3", "--periods",
+                          "12", "--layout", "chain", "--own-priorities", "--quiet"});
+  ASSERT_EQ(made.status, 0) << made.err;
+  EXPECT_EQ(made.out, "generated " + path +
+                          ": 2 reservoirs, 3 demands, 12 months, priority mode, chain, "
+                          "priorities of their own, seed 1\n");
+  OpenProject project(path);
+  ASSERT_EQ(project.scenarios().size(), 1u);
+  EXPECT_EQ(reservoirsOf(*project.scenarios().front()).size(), 2u);
 }
 
 TEST_F(GeneratedProjectTest, AnExistingProjectIsNeverOverwritten) {

@@ -29,9 +29,12 @@ class GeneratedSystem {
   using Shape = GeneratedSystemShape;
 
   explicit GeneratedSystem(unsigned int years, Shape shape = Shape())
-      : net(Interval(Date(1901, 1, 1), Date(1900 + years, 12, 1),
-                     Vocabulary::of(Periodicity::monthly))),
-        shape(shape) {
+      : GeneratedSystem(std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 1,
+                                                       monthsOf(years), "Teste"),
+                        shape) {}
+
+  // Builds into target, a rule scenario of any kind over its own interval.
+  GeneratedSystem(std::shared_ptr<RuleScenario> target, Shape shape) : net(target), shape(shape) {
     std::vector<std::shared_ptr<Node>> confluences;
     for (int i = 0; i < 50; ++i) {
       auto reservoir = addReservoir(i);
@@ -60,6 +63,14 @@ class GeneratedSystem {
     link(confluences[0], net.node(ElementType::drain));
     for (const auto& junction : confluences) sendAll(junction);
   }
+
+  // The months from January 1901 over years.
+  static Interval monthsOf(unsigned int years) {
+    return Interval(Date(1901, 1, 1), Date(1900 + years, 12, 1),
+                    Vocabulary::of(Periodicity::monthly));
+  }
+
+  const std::vector<std::shared_ptr<Node>>& getReservoirs() const { return reservoirs; }
 
   NetworkBuilder net;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -17,6 +18,8 @@
 class ExecutionOptimization : public ExecutionMethod {
  public:
   using Functions = std::vector<std::shared_ptr<ObjectiveFunction>>;
+  // Simulates one candidate on a prepared copy of the scenario and gives its objectives.
+  using Evaluator = std::function<std::vector<double>(const std::vector<double>&)>;
 
   ExecutionOptimization();
 
@@ -32,6 +35,19 @@ class ExecutionOptimization : public ExecutionMethod {
   void run();
   // The evaluation of one candidate, which the problem of the swarm calls.
   void configureSolution(Solution* solution);
+  // Writes candidate into the rules, simulates once and gives the objective values.
+  std::vector<double> simulate(const std::vector<double>& candidate);
+  // What one simulation needs besides the rules: the operation system, interval and kind.
+  void prepareSimulation(const std::shared_ptr<OperationSystem>& operation,
+                         const Interval& runInterval, const Enum<ScenarioType>& type);
+
+  // The number of threads that evaluate a swarm; 1 evaluates on the run's own thread. Each thread
+  // evaluates on its own copy of the scenario, and the swarm's draws stay on the run's thread, so
+  // every thread count gives the same front. Default: the machine's cores.
+  unsigned int getThreads() const { return threads; }
+  void setThreads(unsigned int value) { threads = value < 1 ? 1 : value; }
+  // One evaluator per thread for the next run, or none to evaluate serially.
+  void setEvaluators(std::vector<Evaluator> value) { evaluators = std::move(value); }
 
   // Throws std::invalid_argument "ExecutionOptimization:getObjectiveFunction: The objective
   // function has not been added" for a type without a function.
@@ -63,13 +79,19 @@ class ExecutionOptimization : public ExecutionMethod {
   // The elements the candidates are written into and read from; the objective functions follow
   // them by id.
   void setElements(const Elements& value);
-  void setSettingsManager(const SettingsManager* value) { settingsManager = value; }
+  // The settings of the rules the candidates are written into; the objective functions that read
+  // rules read them there.
+  void setSettingsManager(const SettingsManager* value);
 
  protected:
   std::shared_ptr<ExecutionMethod> copySpecific() const override;
 
  private:
   KOVARuleMetalParameters metalParameters();
+  // Evaluates the swarm on the evaluators' threads, then records objectives and progress in the
+  // swarm's order on this thread.
+  void evaluateSwarm(const std::vector<Solution*>& solutions);
+  void record(Solution* solution, const std::vector<double>& objectives);
   void configure(OptimizationAlgorithmType type, const std::shared_ptr<AlgorithmParameters>& values);
   Elements reservoirs() const;
 
@@ -81,4 +103,6 @@ class ExecutionOptimization : public ExecutionMethod {
   std::shared_ptr<OptimizationAlgorithm> algorithm;
   std::shared_ptr<KOVACoreProgressBar> progressBar;
   Functions objectiveFunctions;
+  unsigned int threads;
+  std::vector<Evaluator> evaluators;
 };

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "optimization/kernel/Problem.h"
 
@@ -9,6 +10,8 @@
 // kernel's solution type by name, and the counts of variables and objectives.
 struct KOVARuleMetalParameters {
   std::function<void(Solution*)> evaluate;
+  // When set, evaluates a whole swarm at once (the candidates' evaluations are independent).
+  std::function<void(const std::vector<Solution*>&)> evaluateAll;
   std::string solutionType;
   int numberOfVariables = 0;
   int numberOfObjectives = 0;
@@ -23,7 +26,9 @@ class KOVARuleMetal : public Problem {
   explicit KOVARuleMetal(const KOVARuleMetalParameters& parameters);
 
   void evaluate(Solution* solution) override;
+  void evaluateAll(const std::vector<Solution*>& solutions) override;
 
  private:
   std::function<void(Solution*)> evaluation;
+  std::function<void(const std::vector<Solution*>&)> swarmEvaluation;
 };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/Element.h"
+#include "core/SettingsManager.h"
 #include "optimization/ObjectiveFunctionTypeEnum.h"
 #include "vocabulary/Enum.h"
 
@@ -21,6 +22,9 @@ class ObjectiveFunction {
 
   double getValue(unsigned int index) const;
   virtual const ObjectiveFunctionTypeEnum& getType() const = 0;
+  // The settings of the scenario whose rules a function reads, for the functions that read
+  // rules; without them they read the manager's current scenario.
+  virtual void bindSettings(const SettingsManager*) {}
   virtual Enum<Unit> getUnit() const = 0;
 
   bool isMinimization() const { return minimize; }
@@ -101,7 +105,13 @@ class HedgingCurveFunction : public ObjectiveFunction {
   using ObjectiveFunction::ObjectiveFunction;
   const ObjectiveFunctionTypeEnum& getType() const override;
   Enum<Unit> getUnit() const override;
+  void bindSettings(const SettingsManager* value) override { settings = value; }
 
  protected:
   double valueOf(const Element& element, unsigned int index) const override;
+
+ private:
+  const SettingsManager* settingsOfRules() const;
+
+  const SettingsManager* settings = nullptr;
 };

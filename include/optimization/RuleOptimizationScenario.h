@@ -47,6 +47,11 @@ class RuleOptimizationScenario : public RuleScenario {
   RuleOptimizationScenario(const std::shared_ptr<ExecutionOptimization>& method, unsigned int id,
                            const Interval& interval, const std::string& name);
   void prepareExecution();
+  // One evaluator per thread of the execution, each on its own copy of this scenario; none for a
+  // single thread.
+  std::vector<ExecutionOptimization::Evaluator> makeEvaluators() const;
+  // Makes this copy ready to simulate candidates on its own.
+  void prepareAsEvaluator();
 
   Matrix matrixOfSolutions;
   Matrix matrixOfObjectiveFunctionsValues;

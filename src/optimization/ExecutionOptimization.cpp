@@ -1,7 +1,9 @@
 #include "optimization/ExecutionOptimization.h"
 
 #include <algorithm>
+#include <exception>
 #include <stdexcept>
+#include <thread>
 
 #include "common/Calendar.h"
 #include "core/ElementSets.h"
@@ -35,7 +37,9 @@ std::shared_ptr<AlgorithmParameters> startingParameters(
 
 }  // namespace
 
-ExecutionOptimization::ExecutionOptimization() : ExecutionMethod(ExecutionType::optimization) {}
+ExecutionOptimization::ExecutionOptimization()
+    : ExecutionMethod(ExecutionType::optimization),
+      threads(std::max(1u, std::thread::hardware_concurrency())) {}
 
 void ExecutionOptimization::createResults(const Elements& runElements, const Interval& runInterval,
                                           const Enum<ScenarioType>& type) {
@@ -79,11 +83,54 @@ void ExecutionOptimization::run() {
 }
 
 void ExecutionOptimization::configureSolution(Solution* solution) {
-  OptimizationUtils::setDecisionVars(OptimizationUtils::makeVectorFromSolution(solution),
-                                     reservoirs(), *settingsManager);
+  record(solution, simulate(OptimizationUtils::makeVectorFromSolution(solution)));
+}
+
+std::vector<double> ExecutionOptimization::simulate(const std::vector<double>& candidate) {
+  OptimizationUtils::setDecisionVars(candidate, reservoirs(), *settingsManager);
   run();
-  for (std::size_t i = 0; i < objectiveFunctions.size(); ++i) {
-    solution->setObjective(static_cast<int>(i), objectiveFunctions[i]->getValue(0));
+  std::vector<double> objectives;
+  for (const auto& function : objectiveFunctions) objectives.push_back(function->getValue(0));
+  return objectives;
+}
+
+void ExecutionOptimization::prepareSimulation(const std::shared_ptr<OperationSystem>& operation,
+                                              const Interval& runInterval,
+                                              const Enum<ScenarioType>& type) {
+  operationSystem = operation;
+  interval = runInterval;
+  scenarioType = type;
+}
+
+void ExecutionOptimization::evaluateSwarm(const std::vector<Solution*>& solutions) {
+  std::vector<std::vector<double>> candidates;
+  for (Solution* solution : solutions) {
+    candidates.push_back(OptimizationUtils::makeVectorFromSolution(solution));
+  }
+  std::vector<std::vector<double>> objectives(solutions.size());
+  std::vector<std::exception_ptr> failures(evaluators.size());
+  std::vector<std::thread> workers;
+  for (std::size_t w = 0; w < evaluators.size(); ++w) {
+    workers.emplace_back([&, w] {
+      try {
+        for (std::size_t i = w; i < candidates.size(); i += evaluators.size()) {
+          objectives[i] = evaluators[w](candidates[i]);
+        }
+      } catch (...) {
+        failures[w] = std::current_exception();
+      }
+    });
+  }
+  for (auto& worker : workers) worker.join();
+  for (const auto& failure : failures) {
+    if (failure) std::rethrow_exception(failure);
+  }
+  for (std::size_t i = 0; i < solutions.size(); ++i) record(solutions[i], objectives[i]);
+}
+
+void ExecutionOptimization::record(Solution* solution, const std::vector<double>& objectives) {
+  for (std::size_t i = 0; i < objectives.size(); ++i) {
+    solution->setObjective(static_cast<int>(i), objectives[i]);
   }
   progressBar->updateWithThrow();
 }
@@ -152,6 +199,9 @@ void ExecutionOptimization::configure(OptimizationAlgorithmType type,
 KOVARuleMetalParameters ExecutionOptimization::metalParameters() {
   KOVARuleMetalParameters parameters;
   parameters.evaluate = [this](Solution* solution) { configureSolution(solution); };
+  if (evaluators.size() > 1) {
+    parameters.evaluateAll = [this](const std::vector<Solution*>& swarm) { evaluateSwarm(swarm); };
+  }
   parameters.solutionType = "Real";
   parameters.numberOfVariables = static_cast<int>(
       settingsManager ? OptimizationUtils::getNumOfDecisionVars(reservoirs(), *settingsManager) : 0);
@@ -171,7 +221,13 @@ void ExecutionOptimization::setElements(const Elements& value) {
     }
     function = ObjectiveFunctionFactory::make(function->getType().getType(),
                                               function->isMinimization(), followed);
+    function->bindSettings(settingsManager);
   }
+}
+
+void ExecutionOptimization::setSettingsManager(const SettingsManager* value) {
+  settingsManager = value;
+  for (auto& function : objectiveFunctions) function->bindSettings(settingsManager);
 }
 
 ExecutionOptimization::Elements ExecutionOptimization::reservoirs() const {
@@ -181,6 +237,7 @@ ExecutionOptimization::Elements ExecutionOptimization::reservoirs() const {
 std::shared_ptr<ExecutionMethod> ExecutionOptimization::copySpecific() const {
   auto copy = std::make_shared<ExecutionOptimization>();
   copy->objectiveFunctions = objectiveFunctions;
+  copy->threads = threads;
   if (algorithm) {
     auto parameters = AlgorithmParametersFactory::make(algorithm->getType());
     parameters->copyFrom(algorithm->getAlgorithmParameters());

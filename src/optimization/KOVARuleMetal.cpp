@@ -15,7 +15,7 @@ SolutionType* makeSolutionType(const std::string& name, Problem* problem) {
 }  // namespace
 
 KOVARuleMetal::KOVARuleMetal(const KOVARuleMetalParameters& parameters)
-    : evaluation(parameters.evaluate) {
+    : evaluation(parameters.evaluate), swarmEvaluation(parameters.evaluateAll) {
   numberOfVariables = parameters.numberOfVariables;
   numberOfObjectives = parameters.numberOfObjectives;
   numberOfConstraints = 0;
@@ -26,3 +26,11 @@ KOVARuleMetal::KOVARuleMetal(const KOVARuleMetalParameters& parameters)
 }
 
 void KOVARuleMetal::evaluate(Solution* solution) { evaluation(solution); }
+
+void KOVARuleMetal::evaluateAll(const std::vector<Solution*>& solutions) {
+  if (swarmEvaluation) {
+    swarmEvaluation(solutions);
+  } else {
+    Problem::evaluateAll(solutions);
+  }
+}

@@ -100,14 +100,21 @@ const ObjectiveFunctionTypeEnum& HedgingCurveFunction::getType() const {
 
 Enum<Unit> HedgingCurveFunction::getUnit() const { return Vocabulary::of(Unit::dimensionless); }
 
-double HedgingCurveFunction::valueOf(const Element& element, unsigned int) const {
+const SettingsManager* HedgingCurveFunction::settingsOfRules() const {
+  if (settings) return settings;
   const auto& scenario = ScenarioManager::getInstance().getCurrentScenario();
-  if (!scenario || !scenario->getSettingsManager().contains(element.getId())) return 0.0;
-  const auto settings = std::dynamic_pointer_cast<ReservoirRuleSettings>(
-      scenario->getSettingsManager().getSettings(element.getId()));
+  return scenario ? &scenario->getSettingsManager() : nullptr;
+}
+
+double HedgingCurveFunction::valueOf(const Element& element, unsigned int) const {
+  const SettingsManager* manager = settingsOfRules();
+  if (!manager || !manager->contains(element.getId())) return 0.0;
+  const auto ruleSettings =
+      std::dynamic_pointer_cast<ReservoirRuleSettings>(manager->getSettings(element.getId()));
   const auto rule =
-      settings ? std::dynamic_pointer_cast<OptHydrologicalStateReleaseRule>(settings->getRule())
-               : nullptr;
+      ruleSettings
+          ? std::dynamic_pointer_cast<OptHydrologicalStateReleaseRule>(ruleSettings->getRule())
+          : nullptr;
   if (!rule) return 0.0;
   const std::vector<double> achieved = rule->getGuaranteeResults();
   const std::vector<double>& required = rule->getRequiredGuarantees();

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "core/ElementsFilter.h"
 #include "optimization/RuleOptimizationSceneryCheck.h"
 #include "scenario/ScenarioManager.h"
 #include "vocabulary/Vocabulary.h"
@@ -60,9 +61,11 @@ bool RuleOptimizationScenario::run(const Progress& progress) {
     finished = RuleScenario::run(progress);
   } catch (...) {
     manager.setCurrentScenario(previous);
+    getExecutionOptimization().setEvaluators({});
     throw;
   }
   manager.setCurrentScenario(previous);
+  getExecutionOptimization().setEvaluators({});
   const auto& algorithm = *getExecutionOptimization().getOptimizationAlgorithm();
   if (finished) {
     setOptimizationResults(algorithm.makeMatrixOfSolutions(),
@@ -78,7 +81,31 @@ void RuleOptimizationScenario::prepareExecution() {
   auto& execution = getExecutionOptimization();
   execution.setElements(getElements());
   execution.setSettingsManager(&getSettingsManager());
+  execution.setEvaluators(makeEvaluators());
   execution.reconfigureAlgorithm();
+}
+
+std::vector<ExecutionOptimization::Evaluator> RuleOptimizationScenario::makeEvaluators() const {
+  std::vector<ExecutionOptimization::Evaluator> evaluators;
+  const unsigned int threads = getExecutionOptimization().getThreads();
+  if (threads < 2) return evaluators;
+  for (unsigned int k = 0; k < threads; ++k) {
+    const auto copy = std::static_pointer_cast<RuleOptimizationScenario>(this->copy());
+    copy->prepareAsEvaluator();
+    evaluators.push_back([copy](const std::vector<double>& candidate) {
+      return copy->getExecutionOptimization().simulate(candidate);
+    });
+  }
+  return evaluators;
+}
+
+void RuleOptimizationScenario::prepareAsEvaluator() {
+  preRun();
+  ExecutionMethod::configureLinkAddonPumping(ElementsFilter::filterByEnabledLinks(getElements()));
+  auto& execution = getExecutionOptimization();
+  execution.setElements(getElements());
+  execution.setSettingsManager(&getSettingsManager());
+  execution.prepareSimulation(getOperationSystem(), getInterval(), getScenarioType());
 }
 
 void RuleOptimizationScenario::setOptimizationResults(const Matrix& solutions,

@@ -284,3 +284,26 @@ TEST(RuleOptimization, HedgingCurveMeasuresTheGuaranteesAgainstThoseRequired) {
   EXPECT_GT(expected, 0.0);
   manager.setCurrentScenario(nullptr);
 }
+
+TEST(RuleOptimization, EveryThreadCountGivesTheSameFront) {
+  for (auto type : {OptimizationAlgorithmType::smpso, OptimizationAlgorithmType::omopso,
+                    OptimizationAlgorithmType::pso}) {
+    SCOPED_TRACE(OptimizationAlgorithmTypeNames::nameOf(type));
+    Matrix solutions[2];
+    Matrix objectives[2];
+    long calls[2] = {0, 0};
+    const unsigned int threads[2] = {1, 3};
+    for (int k = 0; k < 2; ++k) {
+      PseudoRandom::setSeed(21);
+      auto scenario = optimisation(type, 7, 7, 4);
+      scenario->getExecutionOptimization().setThreads(threads[k]);
+      ASSERT_TRUE(scenario->run([&](long, long) { return ++calls[k] > 0; }));
+      solutions[k] = scenario->getMatrixOfSolutions();
+      objectives[k] = scenario->getMatrixOfObjectiveFunctionsValues();
+    }
+    EXPECT_EQ(solutions[0], solutions[1]);
+    EXPECT_EQ(objectives[0], objectives[1]);
+    EXPECT_EQ(calls[0], 35);  // 7 * (1 + 4) on either thread count
+    EXPECT_EQ(calls[1], 35);
+  }
+}

@@ -29,6 +29,10 @@ class Algorithm {
   void* getOutputParameter(const std::string& name) { return outputParameters[name]; }
 
  protected:
+  // Hands the first size solutions of swarm to the problem at once, then, when asked, evaluates
+  // their constraints one by one.
+  void evaluateSwarm(SolutionSet* swarm, int size, bool withConstraints);
+
   Problem* problem;  // not owned
   std::map<std::string, Operator*> operators;
   std::map<std::string, void*> inputParameters;

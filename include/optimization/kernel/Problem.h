@@ -18,6 +18,10 @@ class Problem {
 
   // Writes the objectives (and whatever else the problem records) of solution.
   virtual void evaluate(Solution* solution) = 0;
+  // Evaluates every solution, by default one after the other. The swarms hand over a whole swarm
+  // at once, after every draw that positions it, so a problem whose evaluations are independent
+  // may run them side by side.
+  virtual void evaluateAll(const std::vector<Solution*>& solutions);
   // Writes the constraint violation of solution; the default has no constraints.
   virtual void evaluateConstraints(Solution* solution);
 

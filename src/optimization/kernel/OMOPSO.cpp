@@ -141,12 +141,8 @@ void OMOPSO::offerToArchives(Solution* particle) {
 SolutionSet* OMOPSO::execute() {
   initParams();
 
-  for (int i = 0; i < swarmSize; ++i) {
-    Solution* particle = new Solution(problem);
-    particles->add(particle);
-    problem->evaluate(particle);
-    problem->evaluateConstraints(particle);
-  }
+  for (int i = 0; i < swarmSize; ++i) particles->add(new Solution(problem));
+  evaluateSwarm(particles, swarmSize, true);
 
   const int n = problem->getNumberOfVariables();
   for (int i = 0; i < swarmSize; ++i) speed[i] = new double[n]();
@@ -158,10 +154,7 @@ SolutionSet* OMOPSO::execute() {
     computeSpeed();
     computeNewPositions();
     mopsoMutation(iteration, maxIterations);
-    for (int i = 0; i < swarmSize; ++i) {
-      problem->evaluate(particles->get(i));
-      problem->evaluateConstraints(particles->get(i));
-    }
+    evaluateSwarm(particles, swarmSize, true);
     for (int i = 0; i < swarmSize; ++i) offerToArchives(particles->get(i));
     for (int i = 0; i < swarmSize; ++i) {
       Solution* particle = particles->get(i);

@@ -127,11 +127,11 @@ SolutionSet* PSO::execute() {
   initParams();
   evaluations = 0;
 
+  for (int i = 0; i < swarmSize; ++i) particles->add(new Solution(problem));
+  evaluateSwarm(particles, swarmSize, false);
+  evaluations += swarmSize;
   for (int i = 0; i < swarmSize; ++i) {
-    Solution* particle = new Solution(problem);
-    particles->add(particle);
-    problem->evaluate(particle);
-    ++evaluations;
+    Solution* particle = particles->get(i);
     if (globalBest == nullptr || particle->getObjective(0) < globalBest->getObjective(0)) {
       delete globalBest;
       globalBest = new Solution(particle);
@@ -146,10 +146,8 @@ SolutionSet* PSO::execute() {
     delete static_cast<int*>(findBestSolution->execute(particles));
     computeSpeed(iteration, maxIterations);
     computeNewPositions();
-    for (int i = 0; i < swarmSize; ++i) {
-      problem->evaluate(particles->get(i));
-      ++evaluations;
-    }
+    evaluateSwarm(particles, swarmSize, false);
+    evaluations += swarmSize;
     for (int i = 0; i < swarmSize; ++i) {
       Solution* particle = particles->get(i);
       if (best[i]->getObjective(0) > particle->getObjective(0)) {

@@ -18,6 +18,10 @@ Problem::~Problem() { delete solutionType; }
 
 void Problem::evaluateConstraints(Solution*) {}
 
+void Problem::evaluateAll(const std::vector<Solution*>& solutions) {
+  for (Solution* solution : solutions) evaluate(solution);
+}
+
 void Problem::setSolutionType(SolutionType* type) {
   if (type == solutionType) return;
   delete solutionType;

@@ -163,12 +163,8 @@ void SMPSO::offerToLeaders(Solution* particle) {
 SolutionSet* SMPSO::execute() {
   initParams();
 
-  for (int i = 0; i < swarmSize; ++i) {
-    Solution* particle = new Solution(problem);
-    particles->add(particle);
-    problem->evaluate(particle);
-    problem->evaluateConstraints(particle);
-  }
+  for (int i = 0; i < swarmSize; ++i) particles->add(new Solution(problem));
+  evaluateSwarm(particles, swarmSize, true);
 
   const int n = problem->getNumberOfVariables();
   for (int i = 0; i < swarmSize; ++i) speed[i] = new double[n]();
@@ -180,10 +176,7 @@ SolutionSet* SMPSO::execute() {
     computeSpeed(iteration, maxIterations);
     computeNewPositions();
     mopsoMutation(iteration, maxIterations);
-    for (int i = 0; i < swarmSize; ++i) {
-      problem->evaluate(particles->get(i));
-      problem->evaluateConstraints(particles->get(i));
-    }
+    evaluateSwarm(particles, swarmSize, true);
     for (int i = 0; i < swarmSize; ++i) offerToLeaders(particles->get(i));
     for (int i = 0; i < swarmSize; ++i) {
       Solution* particle = particles->get(i);

@@ -61,6 +61,9 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   std::shared_ptr<Scenario> copy() const;
   // Lets every reservoir rule find the elements it depends on by id, after loading or copying.
   void resolveRuleReferences();
+  // Gives target a deep copy of this scenario's elements, their links and settings, and the
+  // scenario-wide data (ids, labels, pumping costs, layers, EPSG code), whatever target's kind.
+  void copyNetworkInto(Scenario& target) const;
 
   void preRun();
   void createResults();
@@ -157,7 +160,6 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
 
  private:
   void insertElement(const std::shared_ptr<Element>& element, bool rename, unsigned int id);
-  void copyNetworkInto(Scenario& target) const;
 
   std::map<unsigned int, bool> usedElementIds;
   Elements elements;

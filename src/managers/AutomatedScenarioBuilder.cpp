@@ -1,0 +1,64 @@
+#include "managers/AutomatedScenarioBuilder.h"
+
+#include <stdexcept>
+#include <string>
+
+#include "core/ElementSets.h"
+#include "core/ElementsFilter.h"
+#include "core/KOVACoreProgressBar.h"
+#include "core/ReservoirRuleSettings.h"
+#include "operation/ExecutionContinuous.h"
+#include "optimization/OptimizationUtils.h"
+#include "optimization/RuleOptimizationScenario.h"
+#include "project/database/DatabaseInsert.h"
+#include "project/database/DatabaseSceneryCopy.h"
+#include "rules/OptReleaseRule.h"
+#include "scenario/ScenarioManager.h"
+
+namespace {
+
+constexpr unsigned int kSteps = 5;
+
+}  // namespace
+
+std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromOptimization(
+    const RuleOptimizationScenario& source, unsigned int solutionLineIndex,
+    const Progress& progress) {
+  const auto& solutions = source.getMatrixOfSolutions();
+  if (solutionLineIndex >= solutions.size()) {
+    throw std::invalid_argument(
+        "AutomatedScenarioBuilder::makeRuleScenarioFromOptimization: solutionLineIndex out of "
+        "range of solutionMatrix");
+  }
+  KOVACoreProgressBar bar(0, kSteps, progress);
+  auto scenario = std::make_shared<RuleScenario>(
+      std::make_shared<ExecutionContinuous>(), ScenarioManager::getInstance().getNextScenarioId(),
+      source.getInterval(), source.getName() + "-SOL-" + std::to_string(solutionLineIndex));
+  source.copyNetworkInto(*scenario);
+  scenario->resolveRuleReferences();
+  if (!bar.update()) return nullptr;
+  const auto reservoirs =
+      ElementsFilter::filterByType(scenario->getElements(), ElementSets::reservoir());
+  OptimizationUtils::setDecisionVars(solutions[solutionLineIndex], reservoirs,
+                                     scenario->getSettingsManager());
+  if (!bar.update()) return nullptr;
+  convertOptRuleReleaseToRuleRelease(*scenario);
+  if (!bar.update()) return nullptr;
+  DatabaseInsert::insertSceneryEntryInDatabase(*scenario);
+  if (!bar.update()) return nullptr;
+  if (!DatabaseSceneryCopy::sceneryCopy(scenario, nullptr)) return nullptr;
+  if (!bar.update()) return nullptr;
+  return scenario;
+}
+
+void AutomatedScenarioBuilder::convertOptRuleReleaseToRuleRelease(Scenario& scenario) {
+  for (const auto& reservoir :
+       ElementsFilter::filterByType(scenario.getElements(), ElementSets::reservoir())) {
+    const auto settings = std::dynamic_pointer_cast<ReservoirRuleSettings>(
+        scenario.getSettingsManager().getSettings(reservoir->getId()));
+    const auto rule =
+        settings ? std::dynamic_pointer_cast<OptReleaseRule>(settings->getRule()) : nullptr;
+    if (rule) settings->setRule(rule->convertToReleaseRule());
+  }
+  scenario.resolveRuleReferences();
+}

@@ -41,6 +41,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "common/Date.h"
@@ -131,6 +132,10 @@ class NetworkFlow {
 
  private:
   unsigned int priorityOf(const std::shared_ptr<Element>& element) const;
+  // The links of a node as columns, made once for the date: which links carry water and what
+  // they lose do not change within a date, while every pass asks for them several times.
+  const std::vector<VariableInfo>& upstreamOf(const std::shared_ptr<Element>& element);
+  const std::vector<VariableInfo>& downstreamOf(const std::shared_ptr<Element>& element);
   double hm3(double flow) const { return hydrologicalBalance->hm3(date, flow); }
   void addRow(int row, const RowVectors& terms);
 
@@ -155,4 +160,6 @@ class NetworkFlow {
   Date date;
   Interval interval;
   unsigned int windowIndex;
+  std::unordered_map<const Element*, std::vector<VariableInfo>> upstreamVariables;
+  std::unordered_map<const Element*, std::vector<VariableInfo>> downstreamVariables;
 };

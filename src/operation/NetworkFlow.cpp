@@ -68,6 +68,25 @@ unsigned int NetworkFlow::priorityOf(const std::shared_ptr<Element>& element) co
       hydrologicalStateCalculator, element->getType(), interval, date, windowIndex);
 }
 
+const std::vector<VariableInfo>& NetworkFlow::upstreamOf(const std::shared_ptr<Element>& element) {
+  auto found = upstreamVariables.find(element.get());
+  if (found == upstreamVariables.end()) {
+    found = upstreamVariables.emplace(element.get(), KLPKUtils::makeUpstreamVariables(element, date))
+                .first;
+  }
+  return found->second;
+}
+
+const std::vector<VariableInfo>& NetworkFlow::downstreamOf(
+    const std::shared_ptr<Element>& element) {
+  auto found = downstreamVariables.find(element.get());
+  if (found == downstreamVariables.end()) {
+    found =
+        downstreamVariables.emplace(element.get(), KLPKUtils::makeDownstreamVariables(element)).first;
+  }
+  return found->second;
+}
+
 std::vector<unsigned int> NetworkFlow::makePriorities(const Elements& elements) const {
   std::set<unsigned int> priorities;
   for (const auto& element :
@@ -170,7 +189,7 @@ void NetworkFlow::makeObjectiveFunctionDemand(const Elements& demands) {
   for (const auto& demand : demands) {
     if (!demand->isEnabled()) continue;
     const double weight = priority(priorityOf(demand));
-    for (const auto& variable : KLPKUtils::makeUpstreamVariables(demand, date)) {
+    for (const auto& variable : upstreamOf(demand)) {
       KLPKUtils::slp_set_obj_coef(problem, KLPKUtils::lowColValue(problem, variable.name, 0.0),
                                   weight);
     }
@@ -199,11 +218,11 @@ void NetworkFlow::makeSupplySubjects(const Elements& reservoirs, bool zeroContri
         available, reservoir->getReservoirInfo().minVol, kTolerance);
 
     RowVectors row;
-    for (const auto& variable : KLPKUtils::makeDownstreamVariables(reservoir)) {
+    for (const auto& variable : downstreamOf(reservoir)) {
       row.add(KLPKUtils::lowColValue(problem, variable.name, 0.0), 1.0);
     }
     row.add(KLPKUtils::lowColValue(problem, goalName(reservoir), 0.0), 1.0);
-    for (const auto& variable : KLPKUtils::makeUpstreamVariables(reservoir, date)) {
+    for (const auto& variable : upstreamOf(reservoir)) {
       row.add(KLPKUtils::lowColValue(problem, variable.name, 0.0), -variable.coefficient);
     }
     if (NumericalUtils::subtractDoubles(aboveMinimum, 0.0, kTolerance) < 0.0) {
@@ -251,7 +270,7 @@ void NetworkFlow::makeDemandSubjects(const Elements& demands, const MapOfPriorit
                                      unsigned int pass) {
   for (const auto& demand : demands) {
     if (!demand->isEnabled()) continue;
-    const std::vector<VariableInfo> upstream = KLPKUtils::makeUpstreamVariables(demand, date);
+    const std::vector<VariableInfo>& upstream = upstreamOf(demand);
     const bool ownPass = priorityOf(demand) == pass;
     RowVectors row;
     double pinned = 0.0;
@@ -284,7 +303,7 @@ void NetworkFlow::makeDemandSubjects(const Elements& demands, const MapOfPriorit
 void NetworkFlow::makeDemandReturnSubjects(const std::shared_ptr<Element>& element,
                                            const std::vector<VariableInfo>& upstream) {
   const auto demand = std::static_pointer_cast<Demand>(element);
-  for (const auto& returned : KLPKUtils::makeDownstreamVariables(demand)) {
+  for (const auto& returned : downstreamOf(demand)) {
     const double share = demand->getDemandReturnPercentage(returned.link) / 100.0;
     RowVectors row;
     row.add(KLPKUtils::lowColValue(problem, returned.name, 0.0), 1.0);
@@ -304,8 +323,8 @@ void NetworkFlow::makeDemandReturnSubjects(const std::shared_ptr<Element>& eleme
 void NetworkFlow::makeJunctionSubjects(const Elements& junctions) {
   for (const auto& junction : junctions) {
     if (!junction->isEnabled()) continue;
-    const auto downstream = KLPKUtils::makeDownstreamVariables(junction);
-    const auto upstream = KLPKUtils::makeUpstreamVariables(junction, date);
+    const auto& downstream = downstreamOf(junction);
+    const auto& upstream = upstreamOf(junction);
     if (downstream.empty() && upstream.empty()) continue;
     RowVectors row;
     for (const auto& variable : downstream) {
@@ -325,7 +344,7 @@ void NetworkFlow::makeReservoirMaxReleaseSubject(const Elements& reservoirs) {
     if (!element->isEnabled()) continue;
     const auto reservoir = asReservoir(element);
     RowVectors row;
-    for (const auto& variable : KLPKUtils::makeDownstreamVariables(reservoir)) {
+    for (const auto& variable : downstreamOf(reservoir)) {
       if (variable.link->getType() != ElementType::artificialLink) continue;
       row.add(KLPKUtils::lowColValue(problem, variable.name, 0.0), 1.0);
     }
@@ -341,7 +360,7 @@ void NetworkFlow::makeReservoirMaxReleaseSubject(const Elements& reservoirs) {
 void NetworkFlow::makeLinkMinMaxSlackSubject(const Elements& nodes) {
   for (const auto& node : nodes) {
     if (!node->isEnabled()) continue;
-    for (const auto& variable : KLPKUtils::makeDownstreamVariables(node)) {
+    for (const auto& variable : downstreamOf(node)) {
       RowVectors row;
       row.add(KLPKUtils::lowColValue(problem, variable.name, 0.0), 1.0);
       const int slack = KLPKUtils::lowColValue(problem, variable.name + "_s", 0.0);
@@ -355,7 +374,7 @@ void NetworkFlow::makeLinkMinMaxSlackSubject(const Elements& nodes) {
 void NetworkFlow::makeBoundSubjects(const Elements& nodes) {
   for (const auto& node : nodes) {
     if (!node->isEnabled()) continue;
-    for (const auto& variable : KLPKUtils::makeDownstreamVariables(node)) {
+    for (const auto& variable : downstreamOf(node)) {
       const double limit = variable.link->getInputSerie(SerieType::linkLimit)->getValue(date);
       KLPKUtils::doubleBounded(problem, variable.name, 0.0, hm3(limit));
     }

@@ -8,6 +8,7 @@
 #include "ErrorText.h"
 #include "core/Scenario.h"
 #include "managers/ProjectFunctions.h"
+#include "project/JsonLoadPlace.h"
 #include "project/database/DatabaseProjectLoader.h"
 #include "project/database/DatabaseSearch.h"
 #include "project/database/LoadProject.h"
@@ -16,7 +17,10 @@
 
 namespace {
 
-std::string quoted(const std::string& text) { return "\"" + text + "\""; }
+// Names come from the project file, which does not limit them: messages show them cut.
+std::string quoted(const std::string& text) {
+  return "\"" + JsonLoadPlace::shortName(text) + "\"";
+}
 
 void requireReadableFile(const std::filesystem::path& path) {
   std::error_code error;

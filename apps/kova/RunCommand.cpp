@@ -7,6 +7,7 @@
 #include "ScenarioFindings.h"
 #include "core/KOVACoreProgressBar.h"
 #include "core/Scenario.h"
+#include "reports/CSVWriteFile.h"
 #include "reports/CSVWriteResults.h"
 #include "scenario/ScenarioManager.h"
 
@@ -26,6 +27,7 @@ Command RunCommand::describe() {
 int RunCommand::run(const CommandLine& line, Console& console) {
   ProgressReporter progress(console, line.has("quiet"));
   Interrupt::Guard interruptible;
+  if (line.has("csv")) CSVWriteFile::requireWritableFolder(line.value("csv", ""));
   OpenProject project(line.positional(0),
                       progress.callback("opening", ProgressReporter::Form::steps),
                       line.has("no-save") ? OpenProject::Access::readOnly

@@ -3,8 +3,8 @@
 #include "checks/ElementCheck.h"
 
 // A basin and a junction have no checks of their own; in a rule scenario their allocation
-// matrices must rise line by line and share exactly each line's total, and a node with an enabled
-// downstream link must have one.
+// matrices must rise line by line and share exactly each line's total, and a node with two or more
+// enabled downstream links must have a line that releases something.
 class BasinCheck : public NodeCheck {
  public:
   BasinCheck(std::shared_ptr<Element> element, std::weak_ptr<Scenario> scenario)

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <exception>
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -81,6 +82,16 @@ class JsonLoadHelper {
     } catch (const std::exception& error) {
       locate(where, error);
       throw;
+    }
+  }
+  // What make gives for the kind named by value; a kind that make refuses with
+  // std::invalid_argument is refused at value as not being expected.
+  template <typename Make>
+  static auto known(const json& value, const std::string& expected, Make make) -> decltype(make()) {
+    try {
+      return make();
+    } catch (const std::invalid_argument&) {
+      refuse(value, expected);
     }
   }
   // The type and, cut short, the text of value, as messages tell what was found.

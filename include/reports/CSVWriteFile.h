@@ -13,6 +13,10 @@ class CSVWriteFile {
   // failed (a full disk, for one), after removing it.
   static void finish(std::ofstream& file, const std::filesystem::path& path,
                      const std::string& error);
+  // Makes folder when missing and throws std::runtime_error "<folder>: CSV files cannot be
+  // written there (<reason>)" unless a file can be made in it, so that a long run learns it
+  // before it computes.
+  static void requireWritableFolder(const std::filesystem::path& folder);
   // Removes the files at paths, as far as they exist.
   static void removeAll(const std::vector<std::filesystem::path>& paths);
 };

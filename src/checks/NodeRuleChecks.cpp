@@ -14,10 +14,11 @@ void RuleSharingCheck<Base>::runChecks() {
                                                       *this->getElement(), this->mutableErrors());
   AllocationMatrixCheck::checkTheSumOfMatrixEqual(settings->getAllocation(), *this->getElement(),
                                                   this->mutableErrors());
-  // Without a line that releases something the node passes nothing on: the water that reaches
-  // it would leave the network unseen.
+  // With two links or more downstream the matrix alone shares the water: one without a line
+  // that releases something (the line of zeros a node is made with) would share it by no rule
+  // the user gave. A single link takes the whole remainder, whatever the matrix.
   const auto node = std::static_pointer_cast<Node>(this->getElement());
-  if (!node->getEnabledDownstreamLinks().empty()) {
+  if (node->getEnabledDownstreamLinks().size() > 1) {
     AllocationMatrixCheck::checkTheMatrixReleasesSomething(
         settings->getAllocation(), *this->getElement(), this->mutableErrors());
   }

@@ -17,9 +17,9 @@ std::shared_ptr<Scenario> JsonLoadScenario::load(const json& object) {
   const Interval interval =
       Helper::at(intervalObject, [&] { return JsonLoadInterval::load(intervalObject); });
   const json& methodType = Helper::findRequired(object, "ExecutionMethodType");
-  const auto methodLoader = Helper::at(methodType, [&] {
-    return JsonLoadExecutionMethodFactory::make(Helper::get<std::string>(methodType));
-  });
+  const auto methodLoader = Helper::known(
+      methodType, "an execution method this program reads",
+      [&] { return JsonLoadExecutionMethodFactory::make(Helper::get<std::string>(methodType)); });
   const json& methodObject = Helper::asObject(Helper::findRequired(object, "ExecutionMethod"));
   const std::shared_ptr<ExecutionMethod> method =
       Helper::at(methodObject, [&] { return methodLoader->load(methodObject, interval); });
@@ -54,7 +54,7 @@ void JsonLoadScenario::loadNodes(const json& nodes, const std::shared_ptr<Scenar
   for (const json& item : Helper::asArray(nodes)) {
     const json& element = Helper::findRequired(Helper::findRequired(item, "node"), "element");
     const json& type = Helper::findRequired(element, "elementType");
-    loaders.push_back(Helper::at(type, [&] {
+    loaders.push_back(Helper::known(type, "a node type (element type of a node)", [&] {
       return JsonLoadElementFactory::makeNode(Helper::get<std::string>(type), scenario);
     }));
     Helper::at(item, [&] { loaders.back()->load(item); });
@@ -67,7 +67,7 @@ void JsonLoadScenario::loadLinks(const json& object, const std::shared_ptr<Scena
   if (!found) return;
   for (const json& item : Helper::asArray(links)) {
     const json& type = Helper::findRequired(Helper::findRequired(item, "element"), "elementType");
-    const auto loader = Helper::at(type, [&] {
+    const auto loader = Helper::known(type, "a link type (element type of a link)", [&] {
       return JsonLoadElementFactory::makeLink(Helper::get<std::string>(type), scenario);
     });
     Helper::at(item, [&] { loader->load(item); });

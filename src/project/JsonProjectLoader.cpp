@@ -66,8 +66,9 @@ std::vector<std::shared_ptr<Scenario>> JsonProjectLoader::read(const json& root)
   const json& items = Helper::findRequired(root, "scenarios");
   for (const json& item : Helper::asArray(items)) {
     const json& type = Helper::findRequired(item, "type");
-    const auto loader = Helper::at(
-        type, [&] { return JsonLoadScenarioFactory::make(Helper::get<std::string>(type)); });
+    const auto loader = Helper::known(type, "a scenario type this program reads", [&] {
+      return JsonLoadScenarioFactory::make(Helper::get<std::string>(type));
+    });
     scenarios.push_back(Helper::at(item, [&] { return loader->load(item); }));
     const unsigned int id = scenarios.back()->getId();
     oldTrafficLimit[id] = loader->isOldTrafficLimit();

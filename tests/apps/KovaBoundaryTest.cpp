@@ -1,3 +1,4 @@
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/mount.h>
@@ -8,12 +9,14 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "DemoProject.h"
 #include "NewProjectTarget.h"
+#include "project/JsonProjectLoader.h"
 #include "support/FileText.h"
 #include "support/TemporaryFolder.h"
 
@@ -160,6 +163,89 @@ TEST(KovaBoundary, ProjectsThatCannotBeReadAreOneLineAndCreateNothing) {
             0u)
       << broken.err;
   EXPECT_EQ(std::count(broken.err.begin(), broken.err.end(), '\n'), 1);
+}
+
+// Another program that holds the writer's lock keeps writers out, not readers; and a run learns
+// that it cannot write, its database or its CSV folder, before it computes.
+TEST(KovaBoundary, OnlyWritersWaitForALockAndLearnItBeforeTheyCompute) {
+  const auto folder = openFolder();
+  const std::string project = folder->file("travado.sjson");
+  saveDemo(project, 1932);
+  {
+    SQLite::Database holder(project + ".sqlite", SQLite::OPEN_READWRITE);
+    holder.exec("BEGIN IMMEDIATE");
+    EXPECT_EQ(kova({"info", project}).status, 0);
+    const Outcome writer = kova({"run", project, "--quiet"});
+    EXPECT_EQ(writer.status, 2);
+    EXPECT_NE(writer.err.find("Banco de dados do projeto está bloqueado."), std::string::npos)
+        << writer.err;
+    EXPECT_EQ(writer.out, "");
+    holder.exec("ROLLBACK");
+  }
+  const std::string closed = folder->file("fechada");
+  fs::create_directories(closed);
+  fs::permissions(closed, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                              fs::perms::others_exec);
+  const Outcome csv = kova({"run", project, "--no-save", "--quiet", "--csv", closed}, true);
+  EXPECT_EQ(csv.status, 2);
+  EXPECT_EQ(csv.err,
+            "kova run: " + closed + ": CSV files cannot be written there (Permission denied)\n");
+  EXPECT_EQ(csv.out, "");
+}
+
+// Malformed copies of a saved project, each beside a copy of its database, go through kova
+// check, kova run --no-save and kova metrics: each either works as for a file that was never
+// changed (the value was optional) or ends with status 2 and one line naming the file and the
+// place. None may end in a crash or a raw library text.
+TEST(KovaBoundary, MalformedProjectsGetOneLineNamingFileAndPlace) {
+  TemporaryFolder folder("kova_boundary_");
+  const std::string good = folder.file("vale.sjson");
+  ASSERT_TRUE(NewProjectTarget::save(
+      JsonProjectLoader::load(std::string(KOVA_EXAMPLES_DIR) + "/../tests/data/project/vale.sjson"),
+      good, nullptr));
+  const nlohmann::json root = nlohmann::json::parse(readFile(good));
+  // Every member of the first scenario's nodes and links, removed, made null, or a list.
+  std::vector<std::pair<std::string, nlohmann::json>> corpus;
+  for (const char* array : {"nodes", "links"}) {
+    const auto& items = root["scenarios"][0][array];
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      const nlohmann::json::json_pointer item("/scenarios/0/" + std::string(array) + "/" +
+                                              std::to_string(i));
+      for (const auto& [key, value] : root[item].items()) {
+        (void)value;
+        for (const nlohmann::json& replacement : {nlohmann::json(), nlohmann::json::array()}) {
+          nlohmann::json mutated = root;
+          mutated[item][key] = replacement;
+          corpus.push_back({item.to_string() + "/" + key + "=" + replacement.dump(), mutated});
+        }
+        nlohmann::json removed = root;
+        removed[item].erase(key);
+        corpus.push_back({item.to_string() + "/" + key + " removed", removed});
+      }
+    }
+  }
+  ASSERT_GT(corpus.size(), 30u);
+  std::size_t refused = 0;
+  for (std::size_t n = 0; n < corpus.size(); ++n) {
+    SCOPED_TRACE(corpus[n].first);
+    const std::string file = folder.file("caso" + std::to_string(n) + ".sjson");
+    writeFile(file, corpus[n].second.dump());
+    fs::copy_file(good + ".sqlite", file + ".sqlite");
+    for (const std::vector<std::string>& args : {std::vector<std::string>{"check", file},
+                                                 {"run", file, "--no-save", "--quiet"},
+                                                 {"metrics", file, "--scenario", "Vale"}}) {
+      const Outcome outcome = kova(args);
+      if (outcome.status != 2) continue;
+      ++refused;
+      const std::string start = "kova " + args[0] + ": " + file + ": ";
+      EXPECT_EQ(outcome.err.rfind(start, 0), 0u) << outcome.err;
+      EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+      for (const char* raw : {"[json.exception", "map::at", "Invalid json file", "::make("}) {
+        EXPECT_EQ(outcome.err.find(raw), std::string::npos) << outcome.err;
+      }
+    }
+  }
+  EXPECT_GT(refused, corpus.size());
 }
 
 // A save killed at any moment leaves the project complete or nothing under its names, and the

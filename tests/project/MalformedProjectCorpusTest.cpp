@@ -110,7 +110,8 @@ TEST_F(MalformedProjectCorpus, RefusalsNameTheirPlaceExactly) {
                 "\"scenarioConf\":5,\"y\":{\"elementID\":2"),
        cidade + "/scenarioConf" + names + ": expected an object, found the number 5"},
       {replaced(text, "\"elementType\":\"Demanda humana\"", "\"elementType\":\"Demanda lunar\""),
-       cidade + "/elementType" + names + ": JsonLoadElementFactory::make(): invalid elementType"},
+       cidade + "/elementType" + names +
+           ": expected a node type (element type of a node), found the text \"Demanda lunar\""},
   };
   for (const auto& [file, message] : cases) {
     SCOPED_TRACE(message);
@@ -121,12 +122,16 @@ TEST_F(MalformedProjectCorpus, RefusalsNameTheirPlaceExactly) {
 // A junction whose matrix is gone passes nothing downstream: the checks say so, instead of a run
 // that loses the water without a word.
 TEST_F(MalformedProjectCorpus, ANodeWithoutItsMatrixIsAFindingOfTheChecks) {
-  // Cidade becomes a junction whose link downstream is enabled.
-  const std::string junction =
-      replaced(replaced(projectfile::readFile(projectfile::goldenPath()),
-                        "\"elementType\":\"Demanda humana\"", "\"elementType\":\"Junção\""),
-               "\"name\":\"Rio baixo\",\"id\":6,\"databaseId\":16,\"enable\":0",
-               "\"name\":\"Rio baixo\",\"id\":6,\"databaseId\":16,\"enable\":1");
+  // Cidade becomes a junction with two enabled links downstream: Rio baixo, and Adutora moved to
+  // run from Cidade to Foz, one way only.
+  std::string junction =
+      replaced(projectfile::readFile(projectfile::goldenPath()),
+               "\"elementType\":\"Demanda humana\"", "\"elementType\":\"Junção\"");
+  junction = replaced(junction, "\"name\":\"Rio baixo\",\"id\":6,\"databaseId\":16,\"enable\":0",
+                      "\"name\":\"Rio baixo\",\"id\":6,\"databaseId\":16,\"enable\":1");
+  junction =
+      replaced(junction, "\"upstream\":0,\"downstream\":1", "\"upstream\":2,\"downstream\":3");
+  junction = replaced(junction, "\"bidirectional\":1", "\"bidirectional\":0");
   const std::string withoutMatrix = replaced(junction, "\"scenarioConf\":{\"elementID\":2",
                                              "\"scenarioConf\":null,\"z\":{\"elementID\":2");
   for (const auto& [text, findings] :

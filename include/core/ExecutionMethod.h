@@ -42,6 +42,9 @@ class ExecutionMethod {
 
   // Each enabled drain demands 99999.0 m³/s on every period of interval, so it takes whatever
   // reaches it.
+  // Gives each enabled element one set of continuous result series over interval.
+  static void createContinuousResults(const Elements& elements, const Interval& interval,
+                                      ScenarioType scenarioType);
   static void configureDrainDemands(const Elements& drains, const Interval& interval);
   // Rebuilds each reservoir's working table, unique in volume.
   static void configureReservoirsCav(const Elements& reservoirs);

@@ -7,6 +7,7 @@
 #include "core/LinkAddonPumping.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
+#include "core/ResultFactory.h"
 #include "vocabulary/Vocabulary.h"
 
 namespace {
@@ -54,6 +55,16 @@ void ExecutionMethod::setYearCheckByIndex(unsigned int index, bool checked) {
     throw std::out_of_range("ExecutionMethod::setYearCheckByIndex: invalid index");
   }
   yearsDate[index].second = checked;
+}
+
+void ExecutionMethod::createContinuousResults(const Elements& elements, const Interval& interval,
+                                              ScenarioType scenarioType) {
+  for (const auto& element : elements) {
+    if (!element->isEnabled()) continue;
+    element->setOutputSeries(
+        ResultFactory::make({ExecutionType::continuous, element->getType(), scenarioType}, 1));
+    element->setIntervalSeries(interval);
+  }
 }
 
 void ExecutionMethod::configureDrainDemands(const Elements& drains, const Interval& interval) {

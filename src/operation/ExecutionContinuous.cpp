@@ -2,19 +2,13 @@
 
 #include "common/Calendar.h"
 #include "core/KOVACoreProgressBar.h"
-#include "core/ResultFactory.h"
 #include "operation/OperationSystem.h"
 
 ExecutionContinuous::ExecutionContinuous() : ExecutionMethod(ExecutionType::continuous) {}
 
 void ExecutionContinuous::createResults(const Elements& elements, const Interval& interval,
                                         const Enum<ScenarioType>& scenarioType) {
-  for (const auto& element : elements) {
-    if (!element->isEnabled()) continue;
-    element->setOutputSeries(ResultFactory::make(
-        {getExecutionType().getType(), element->getType(), scenarioType.getType()}, 1));
-    element->setIntervalSeries(interval);
-  }
+  createContinuousResults(elements, interval, scenarioType.getType());
 }
 
 bool ExecutionContinuous::run(const Interval& interval,

@@ -8,7 +8,6 @@
 #include "common/Calendar.h"
 #include "core/ElementSets.h"
 #include "core/ElementsFilter.h"
-#include "core/ResultFactory.h"
 #include "operation/OperationSystem.h"
 #include "optimization/AlgorithmParametersFactory.h"
 #include "optimization/ObjectiveFunctionFactory.h"
@@ -44,12 +43,7 @@ ExecutionOptimization::ExecutionOptimization()
 void ExecutionOptimization::createResults(const Elements& runElements, const Interval& runInterval,
                                           const Enum<ScenarioType>& type) {
   scenarioType = type;
-  for (const auto& element : runElements) {
-    if (!element->isEnabled()) continue;
-    element->setOutputSeries(
-        ResultFactory::make({ExecutionType::continuous, element->getType(), type.getType()}, 1));
-    element->setIntervalSeries(runInterval);
-  }
+  createContinuousResults(runElements, runInterval, type.getType());
 }
 
 bool ExecutionOptimization::run(const Interval& runInterval,
@@ -60,8 +54,7 @@ bool ExecutionOptimization::run(const Interval& runInterval,
   }
   progressBar = std::make_shared<KOVACoreProgressBar>(
       0, algorithm->getAlgorithmParameters()->getNumberOfRuns(), progress);
-  operationSystem = operation;
-  interval = runInterval;
+  prepareSimulation(operation, runInterval, scenarioType);
   try {
     algorithm->initialize();
     algorithm->run();

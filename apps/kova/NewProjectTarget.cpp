@@ -38,11 +38,11 @@ void NewProjectTarget::require(const std::filesystem::path& path) {
   if (std::filesystem::exists(path, error)) {
     throw std::runtime_error(path.string() + ": already exists (choose another name)");
   }
+  // A database without its project file may be what an interrupted save of another program
+  // left; it is named, never removed.
   const auto database = databaseOf(path);
   if (std::filesystem::exists(database, error)) {
-    throw std::runtime_error(database.string() + ": already exists without " + path.string() +
-                             " beside it (left by another program or an interrupted save?); "
-                             "remove it or choose another name");
+    throw std::runtime_error(database.string() + ": already exists (choose another name)");
   }
   const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
   if (!std::filesystem::is_directory(folder, error)) {

@@ -102,6 +102,7 @@ class KLPKRepresentation {
   static void sortByColumn(HandedRow& row);
   // Whether the kept model differs from pending in nothing but the values and kinds of rows.
   bool keptModelFits() const;
+  static bool hasUnitCoefficientsOnly(const std::vector<HandedRow>& rows);
   void updateKeptModel();
   // The programme as lp_solve takes it; null when lp_solve cannot make one.
   _lprec* produceLPrecPointerUsingMemory();

@@ -180,7 +180,19 @@ void KLPKRepresentation::collectBoundRows(std::size_t& count) {
 }
 
 // lp_solve scales a model from its coefficients and objective alone, so a kept model with the
-// same ones solves as a new one once its row values and kinds are set and its basis reset.
+// same ones solves as a new one once its row values and kinds are set and its basis reset. That
+// holds to the last bit only where every coefficient is 1 or -1: a network that loses water in
+// its links gets scale factors under which a changed row value rounds differently from the same
+// value in a new model, so such a network makes a new model for every programme.
+bool KLPKRepresentation::hasUnitCoefficientsOnly(const std::vector<HandedRow>& rows) {
+  for (const HandedRow& row : rows) {
+    for (double coefficient : row.coefs) {
+      if (coefficient != 1.0 && coefficient != -1.0) return false;
+    }
+  }
+  return true;
+}
+
 bool KLPKRepresentation::keptModelFits() const {
   if (lp == nullptr || !keptModelReusable || handed.size() != pending.size() ||
       objective != handedObjective || klpkOptDirectionFlag != handedDirection) {
@@ -251,7 +263,7 @@ lprec* KLPKRepresentation::produceLPrecPointerUsingMemory() {
   setDirection(made);
   set_verbose(made, verbosity());
   if (complete) {
-    keptModelReusable = true;
+    keptModelReusable = hasUnitCoefficientsOnly(pending);
     handedDirection = klpkOptDirectionFlag;
     handed.swap(pending);
     handedObjective = objective;

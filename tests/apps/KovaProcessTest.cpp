@@ -102,12 +102,13 @@ TEST(KovaProcess, ARefusedScenarioPrintsItsFindingsAndEndsWithStatusOne) {
   });
   const Process check({"check", project, "--scenario", "Regras"}, false);
   EXPECT_EQ(check.status, 1);
-  EXPECT_EQ(check.outText.rfind("Sobradinho: ", 0), 0u) << check.outText;
+  const std::string finding = "Volume inicial maior que volume máximo em: Sobradinho\n";
+  EXPECT_EQ(check.outText.rfind(finding, 0), 0u) << check.outText;
   const Process run({"run", project, "--quiet"}, false);
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.outText.rfind(
-                "Regras: Cenário não executado devido a existência algum erro de configuração.\n"
-                "Sobradinho: ",
+                "Regras: Cenário não executado devido a existência algum erro de configuração.\n" +
+                    finding,
                 0),
             0u)
       << run.outText;

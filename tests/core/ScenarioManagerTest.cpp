@@ -14,10 +14,12 @@ class ScenarioManagerTest : public ::testing::Test {
   void SetUp() override { manager.clear(); }
   void TearDown() override { manager.clear(); }
 
+  // A scenario of one drain under index: the smallest network that runs.
   std::shared_ptr<Scenario> add(unsigned int index, unsigned int id) {
     auto scenario = std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), id,
                                                    NetworkBuilder::monthly(2000, 2000),
                                                    "S" + std::to_string(id));
+    NetworkBuilder(scenario).node(ElementType::drain);
     manager.addScenery(index, scenario);
     return scenario;
   }

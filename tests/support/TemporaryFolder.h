@@ -5,14 +5,21 @@
 #include <filesystem>
 #include <string>
 
+#include <unistd.h>
+
 // A folder of its own under the system's temporary folder, named after the running test and
 // removed with everything in it.
 class TemporaryFolder {
  public:
   explicit TemporaryFolder(const std::string& prefix) {
-    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    path = std::filesystem::temp_directory_path() /
-           (prefix + std::string(test->test_suite_name()) + "_" + test->name());
+    // Named after the test, or after the suite and the process when a suite's set-up makes it:
+    // CTest runs each test of a suite in a process of its own, side by side.
+    const auto* unit = ::testing::UnitTest::GetInstance();
+    const auto* test = unit->current_test_info();
+    const std::string name =
+        test ? std::string(test->test_suite_name()) + "_" + test->name()
+             : std::string(unit->current_test_suite()->name()) + "_" + std::to_string(getpid());
+    path = std::filesystem::temp_directory_path() / (prefix + name);
     std::filesystem::remove_all(path);
     std::filesystem::create_directories(path);
   }

@@ -88,6 +88,7 @@ class ExecutionOptimization : public ExecutionMethod {
 
  private:
   KOVARuleMetalParameters metalParameters();
+  Functions::const_iterator findFunction(ObjectiveFunctionType type) const;
   // Evaluates the swarm on the evaluators' threads, then records objectives and progress in the
   // swarm's order on this thread.
   void evaluateSwarm(const std::vector<Solution*>& solutions);

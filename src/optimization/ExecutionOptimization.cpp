@@ -128,24 +128,29 @@ void ExecutionOptimization::record(Solution* solution, const std::vector<double>
   progressBar->updateWithThrow();
 }
 
+ExecutionOptimization::Functions::const_iterator ExecutionOptimization::findFunction(
+    ObjectiveFunctionType type) const {
+  return std::find_if(
+      objectiveFunctions.begin(), objectiveFunctions.end(),
+      [type](const auto& function) { return function->getType().getType() == type; });
+}
+
 const std::shared_ptr<ObjectiveFunction>& ExecutionOptimization::getObjectiveFunction(
     ObjectiveFunctionType type) const {
-  for (const auto& function : objectiveFunctions) {
-    if (function->getType().getType() == type) return function;
+  const auto it = findFunction(type);
+  if (it == objectiveFunctions.end()) {
+    throw std::invalid_argument(
+        "ExecutionOptimization:getObjectiveFunction: The objective function has not been added");
   }
-  throw std::invalid_argument(
-      "ExecutionOptimization:getObjectiveFunction: The objective function has not been added");
+  return *it;
 }
 
 bool ExecutionOptimization::isDefinedObjectiveFunction(ObjectiveFunctionType type) const {
-  return std::any_of(objectiveFunctions.begin(), objectiveFunctions.end(),
-                     [type](const auto& function) { return function->getType().getType() == type; });
+  return findFunction(type) != objectiveFunctions.end();
 }
 
 void ExecutionOptimization::deleteObjectiveFunction(ObjectiveFunctionType type) {
-  const auto it =
-      std::find_if(objectiveFunctions.begin(), objectiveFunctions.end(),
-                   [type](const auto& function) { return function->getType().getType() == type; });
+  const auto it = findFunction(type);
   if (it == objectiveFunctions.end()) {
     throw std::invalid_argument(
         "ExecutionOptimization:deleteObjectiveFunction: The objective function has not been added");

@@ -86,9 +86,13 @@ std::shared_ptr<ReleaseRule> OptVolDepTwoReleaseRule::convertToReleaseRule() con
 }
 
 void OptVolDepTwoReleaseRule::setOptVolDepTwoReleaseStruct(const VolDepTwoReleaseStruct& table) {
-  VolDepTwoReleaseStruct copy = table;
   bool negative = false;
-  forEachCell(copy.releases, [&](double& cell) { negative |= cell < 0.0 && !isMarked(cell); });
+  for (const auto& month : table.releases) {
+    for (const auto& row : month) {
+      negative |= std::any_of(row.begin(), row.end(),
+                              [](double cell) { return cell < 0.0 && !isMarked(cell); });
+    }
+  }
   if (negative) {
     throw std::invalid_argument(
         "OptVolDepTwoReleaseRule:setVolDepTwoReleaseStruct(): The releases has a negative value.");

@@ -32,6 +32,9 @@ class Algorithm {
   // Hands the first size solutions of swarm to the problem at once, then, when asked, evaluates
   // their constraints one by one.
   void evaluateSwarm(SolutionSet* swarm, int size, bool withConstraints);
+  // Moves each of the first size particles by its speed; a variable that crosses a limit stays
+  // on it and its speed is multiplied by chVel1 (lower limit) or chVel2 (upper limit).
+  void moveWithinLimits(SolutionSet* swarm, int size, double** speed, double chVel1, double chVel2);
 
   Problem* problem;  // not owned
   std::map<std::string, Operator*> operators;

@@ -132,22 +132,7 @@ void SMPSO::computeSpeed(int iter, int miter) {
   }
 }
 
-void SMPSO::computeNewPositions() {
-  for (int i = 0; i < swarmSize; ++i) {
-    XReal particle(particles->get(i));
-    for (int j = 0; j < particle.getNumberOfDecisionVariables(); ++j) {
-      particle.setValue(j, particle.getValue(j) + speed[i][j]);
-      if (particle.getValue(j) < problem->getLowerLimit(j)) {
-        particle.setValue(j, problem->getLowerLimit(j));
-        speed[i][j] = speed[i][j] * ChVel1;
-      }
-      if (particle.getValue(j) > problem->getUpperLimit(j)) {
-        particle.setValue(j, problem->getUpperLimit(j));
-        speed[i][j] = speed[i][j] * ChVel2;
-      }
-    }
-  }
-}
+void SMPSO::computeNewPositions() { moveWithinLimits(particles, swarmSize, speed, ChVel1, ChVel2); }
 
 void SMPSO::mopsoMutation(int, int) {
   for (int i = 0; i < particles->size(); ++i) {

@@ -75,6 +75,10 @@ class ExecutionOptimization : public ExecutionMethod {
   // A new swarm of the present type and parameters, sized to the rules as they stand now; not
   // initialised and not checked.
   void reconfigureAlgorithm();
+  // A swarm of type with values, as a project file gives them: neither initialised nor checked
+  // against the number of objective functions, which the scenario's check reports.
+  void setAlgorithm(OptimizationAlgorithmType type,
+                    const std::shared_ptr<AlgorithmParameters>& values);
 
   // The elements the candidates are written into and read from; the objective functions follow
   // them by id.

@@ -16,6 +16,9 @@ class RuleOptimizationScenario : public RuleScenario {
   using Matrix = std::vector<std::vector<double>>;
 
   RuleOptimizationScenario(unsigned int id, const Interval& interval, const std::string& name);
+  // A scenario run by method as it stands, as a project file describes it.
+  RuleOptimizationScenario(const std::shared_ptr<ExecutionOptimization>& method, unsigned int id,
+                           const Interval& interval, const std::string& name);
 
   Enum<ScenarioType> getScenarioType() const override;
   // Sizes the swarm to the rules as they stand, runs it and keeps the front. A cancelled run
@@ -44,8 +47,6 @@ class RuleOptimizationScenario : public RuleScenario {
   std::shared_ptr<SceneryCheck> makeSceneryCheck() override;
 
  private:
-  RuleOptimizationScenario(const std::shared_ptr<ExecutionOptimization>& method, unsigned int id,
-                           const Interval& interval, const std::string& name);
   void prepareExecution();
   // One evaluator per thread of the execution, each on its own copy of this scenario; none for a
   // single thread.

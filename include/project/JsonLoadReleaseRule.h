@@ -2,7 +2,9 @@
 
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <string>
 
+#include "common/Serie.h"
 #include "core/ReleaseRule.h"
 
 class Scenario;
@@ -28,6 +30,10 @@ class JsonLoadReleaseRule {
     return dynamic_cast<T&>(*rule);
   }
   const Scenario& getScenario() const { return *scenario; }
+  // A series of releases (m³/s) over the scenario's interval from the list
+  // [{"julianDay":..,"value":..},...] of member key.
+  std::shared_ptr<Serie> loadReleaseSerie(const nlohmann::json& object,
+                                          const std::string& key) const;
 
  private:
   std::shared_ptr<ReleaseRule> rule;

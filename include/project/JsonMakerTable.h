@@ -16,6 +16,8 @@ class JsonMakerTable {
   // The rows, and the text of the exception for a key without a row.
   JsonMakerTable(std::initializer_list<std::pair<const Key, Maker>> rows, std::string missText)
       : makers(rows), missText(std::move(missText)) {}
+  JsonMakerTable(std::map<Key, Maker> rows, std::string missText)
+      : makers(std::move(rows)), missText(std::move(missText)) {}
 
   // The maker of key. Throws std::invalid_argument with the factory's text for a key without one.
   const Maker& at(const Key& key) const {

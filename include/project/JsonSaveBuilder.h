@@ -53,6 +53,9 @@ class JsonSaveBuilder {
   static std::string makeFloatingValue(double value);
   // [a,b,c] with each value as makeFloatingValue().
   static std::string makeVectorOfFloatingValues(const std::vector<double>& values);
+  // [a,b,c] with each value in 17 significant digits, which read back as the very same double
+  // whatever its magnitude (the decision variables of an optimisation, down to the smallest).
+  static std::string makeVectorOfExactValues(const std::vector<double>& values);
   // [a,b,c] with each integer in decimal.
   template <typename T>
   static std::string makeVectorOfIntegerValues(const std::vector<T>& values) {
@@ -69,4 +72,6 @@ class JsonSaveBuilder {
   // "<series name>":[{"julianDay":j,"value":v},...] in increasing julian day; the series'
   // interval is not written: the reader gives it the scenario's.
   static std::string makeSerie(const Serie& serie);
+  // The same under key instead of the series' name.
+  static std::string makeSerie(const std::string& key, const Serie& serie);
 };

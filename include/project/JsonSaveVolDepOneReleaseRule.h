@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/Element.h"
+#include "project/JsonSaveBuilder.h"
 #include "project/JsonSaveReleaseRule.h"
 
 // Writes a rule by the volume of one other reservoir, static or periodic alike (their rows differ
@@ -16,4 +17,8 @@ class JsonSaveVolDepOneReleaseRule : public JsonSaveReleaseRule {
 
   // The value of a dependency: its element id, or null without one.
   static std::string dependencyValue(const std::shared_ptr<Element>& dependency);
+
+ protected:
+  // The rule's members, in order.
+  JsonSaveBuilder::Members members() const;
 };

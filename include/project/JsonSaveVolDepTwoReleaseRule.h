@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "project/JsonSaveBuilder.h"
 #include "project/JsonSaveReleaseRule.h"
 
 // Writes a rule by the volumes of two other reservoirs, static or periodic alike:
@@ -12,4 +13,8 @@ class JsonSaveVolDepTwoReleaseRule : public JsonSaveReleaseRule {
  public:
   using JsonSaveReleaseRule::JsonSaveReleaseRule;
   std::string toJson() const override;
+
+ protected:
+  // The rule's members, in order.
+  JsonSaveBuilder::Members members() const;
 };

@@ -189,6 +189,11 @@ void ExecutionOptimization::reconfigureAlgorithm() {
   configure(algorithm->getType(), algorithm->getAlgorithmParameters());
 }
 
+void ExecutionOptimization::setAlgorithm(OptimizationAlgorithmType type,
+                                         const std::shared_ptr<AlgorithmParameters>& values) {
+  configure(type, values);
+}
+
 void ExecutionOptimization::configure(OptimizationAlgorithmType type,
                                       const std::shared_ptr<AlgorithmParameters>& values) {
   algorithm = OptimizationAlgorithmFactory::make(type, values, metalParameters());

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "project/JsonLoadExecutionOptimization.h"
 #include "project/JsonMakerTable.h"
 #include "vocabulary/Vocabulary.h"
 
@@ -21,6 +22,11 @@ const JsonMakerTable<Maker>& makers() {
            makeCommonOnly<ExecutionType::continuous>},
           {Vocabulary::of(ExecutionType::windowed).getName(),
            makeCommonOnly<ExecutionType::windowed>},
+          {Vocabulary::of(ExecutionType::optimization).getName(),
+           [] {
+             return std::shared_ptr<JsonLoadExecutionMethod>(
+                 std::make_shared<JsonLoadExecutionOptimization>());
+           }},
       },
       "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType");
   return table;

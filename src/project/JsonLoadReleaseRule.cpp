@@ -28,13 +28,19 @@ void JsonLoadPeriodicReleaseRule::load(const json& object) const {
       Helper::getRequired<std::vector<double>>(object, "Release"));
 }
 
-void JsonLoadSerieReleaseRule::load(const json& object) const {
+std::shared_ptr<Serie> JsonLoadReleaseRule::loadReleaseSerie(const json& object,
+                                                             const std::string& key) const {
   const SerieType type = SerieType::releasedFlow;
   auto serie = SerieFactory::make(Vocabulary::of(type), Vocabulary::of(Vocabulary::unitOf(type)),
                                   getScenario().getInterval());
-  for (const json& item : Helper::asArray(Helper::findRequired(object, serie->getName()))) {
+  for (const json& item : Helper::asArray(Helper::findRequired(object, key))) {
     serie->setValue(Helper::getRequired<unsigned int>(item, "julianDay"),
                     Helper::getRequired<double>(item, "value"));
   }
-  getRule<SerieReleaseRule>().setReleaseSerie(serie);
+  return serie;
+}
+
+void JsonLoadSerieReleaseRule::load(const json& object) const {
+  const std::string key = Vocabulary::of(SerieType::releasedFlow).getName();
+  getRule<SerieReleaseRule>().setReleaseSerie(loadReleaseSerie(object, key));
 }

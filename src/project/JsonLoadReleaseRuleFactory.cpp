@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "project/JsonLoadHydrologicalStateReleaseRule.h"
+#include "project/JsonLoadOptReleaseRule.h"
+#include "project/JsonLoadOptVolDepReleaseRule.h"
 #include "project/JsonLoadVolDepOneReleaseRule.h"
 #include "project/JsonLoadVolDepTwoReleaseRule.h"
 #include "project/JsonMakerTable.h"
@@ -34,6 +36,15 @@ const JsonMakerTable<Maker>& makers() {
           {nameOf(R::periodicVolumeDependence1), makeReader<JsonLoadVolDepOneReleaseRule>},
           {nameOf(R::staticVolumeDependence2), makeReader<JsonLoadVolDepTwoReleaseRule>},
           {nameOf(R::periodicVolumeDependence2), makeReader<JsonLoadVolDepTwoReleaseRule>},
+          {nameOf(R::optNone), makeReader<JsonLoadReleaseRule>},
+          {nameOf(R::optConstant), makeReader<JsonLoadOptConstReleaseRule>},
+          {nameOf(R::optPeriodic), makeReader<JsonLoadOptPeriodicReleaseRule>},
+          {nameOf(R::optSerie), makeReader<JsonLoadOptSerieReleaseRule>},
+          {nameOf(R::optStaticVolumeDependence1), makeReader<JsonLoadOptVolDepOneReleaseRule>},
+          {nameOf(R::optPeriodicVolumeDependence1), makeReader<JsonLoadOptVolDepOneReleaseRule>},
+          {nameOf(R::optStaticVolumeDependence2), makeReader<JsonLoadOptVolDepTwoReleaseRule>},
+          {nameOf(R::optPeriodicVolumeDependence2), makeReader<JsonLoadOptVolDepTwoReleaseRule>},
+          {nameOf(R::optHydrologicalState), makeReader<JsonLoadOptHydrologicalStateReleaseRule>},
       },
       "JsonLoadReleaseRuleFactory::make(): invalid ReleaseRuleType");
   return table;

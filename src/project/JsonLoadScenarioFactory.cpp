@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "project/JsonLoadOptRuleScenario.h"
 #include "project/JsonLoadPriorityScenario.h"
 #include "project/JsonLoadRuleScenario.h"
 #include "project/JsonMakerTable.h"
@@ -20,6 +21,8 @@ const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeReader<JsonLoadRuleScenario>},
+          {Vocabulary::of(ScenarioType::ruleOptimizer).getName(),
+           makeReader<JsonLoadOptRuleScenario>},
           {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),
            makeReader<JsonLoadPriorityScenario>},
       },

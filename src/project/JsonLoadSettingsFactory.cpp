@@ -1,6 +1,7 @@
 #include "project/JsonLoadSettingsFactory.h"
 
 #include <functional>
+#include <map>
 
 #include "project/JsonLoadSettingsPriorityDemand.h"
 #include "project/JsonLoadSettingsPriorityReservoir.h"
@@ -25,34 +26,39 @@ Key keyOf(ScenarioType scenario, ElementType element) {
   return {Vocabulary::of(scenario).getName(), Vocabulary::of(element).getName()};
 }
 
-const JsonMakerTable<Maker, Key>& makers() {
+// Every kind run by release rules reads and writes its elements' settings alike.
+std::map<Key, Maker> rows() {
   using E = ElementType;
-  const ScenarioType rules = ScenarioType::ruleSimulator;
+  std::map<Key, Maker> rows;
+  for (ScenarioType rules : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer}) {
+    rows.emplace(keyOf(rules, E::reservoir), makeReader<JsonLoadSettingsRuleReservoir>);
+    rows.emplace(keyOf(rules, E::junction), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::basin), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::humanDemand), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::animalDemand), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::industrialDemand), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::irrigationDemand), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::drain), makeReader<JsonLoadSettingsRule>);
+    rows.emplace(keyOf(rules, E::naturalLink), makeReader<JsonLoadSettingsRuleLink>);
+    rows.emplace(keyOf(rules, E::artificialLink), makeReader<JsonLoadSettingsRuleLink>);
+  }
   const ScenarioType priorities = ScenarioType::priorityOptimizer;
+  rows.emplace(keyOf(priorities, E::reservoir), makeReader<JsonLoadSettingsPriorityReservoir>);
+  rows.emplace(keyOf(priorities, E::junction), makeReader<JsonLoadSettingsPriorityPassive>);
+  rows.emplace(keyOf(priorities, E::basin), makeReader<JsonLoadSettingsPriorityPassive>);
+  rows.emplace(keyOf(priorities, E::humanDemand), makeReader<JsonLoadSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::animalDemand), makeReader<JsonLoadSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::industrialDemand), makeReader<JsonLoadSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::irrigationDemand), makeReader<JsonLoadSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::drain), makeReader<JsonLoadSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::naturalLink), makeReader<JsonLoadSettingsPriorityPassive>);
+  rows.emplace(keyOf(priorities, E::artificialLink), makeReader<JsonLoadSettingsPriorityPassive>);
+  return rows;
+}
+
+const JsonMakerTable<Maker, Key>& makers() {
   static const JsonMakerTable<Maker, Key> table(
-      {
-          {keyOf(rules, E::reservoir), makeReader<JsonLoadSettingsRuleReservoir>},
-          {keyOf(rules, E::junction), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::basin), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::humanDemand), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::animalDemand), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::industrialDemand), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::irrigationDemand), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::drain), makeReader<JsonLoadSettingsRule>},
-          {keyOf(rules, E::naturalLink), makeReader<JsonLoadSettingsRuleLink>},
-          {keyOf(rules, E::artificialLink), makeReader<JsonLoadSettingsRuleLink>},
-          {keyOf(priorities, E::reservoir), makeReader<JsonLoadSettingsPriorityReservoir>},
-          {keyOf(priorities, E::junction), makeReader<JsonLoadSettingsPriorityPassive>},
-          {keyOf(priorities, E::basin), makeReader<JsonLoadSettingsPriorityPassive>},
-          {keyOf(priorities, E::humanDemand), makeReader<JsonLoadSettingsPriorityDemand>},
-          {keyOf(priorities, E::animalDemand), makeReader<JsonLoadSettingsPriorityDemand>},
-          {keyOf(priorities, E::industrialDemand), makeReader<JsonLoadSettingsPriorityDemand>},
-          {keyOf(priorities, E::irrigationDemand), makeReader<JsonLoadSettingsPriorityDemand>},
-          {keyOf(priorities, E::drain), makeReader<JsonLoadSettingsPriorityDemand>},
-          {keyOf(priorities, E::naturalLink), makeReader<JsonLoadSettingsPriorityPassive>},
-          {keyOf(priorities, E::artificialLink), makeReader<JsonLoadSettingsPriorityPassive>},
-      },
-      "JsonSaveSettingsFactory::make(): invalid parameter key");
+      rows(), "JsonSaveSettingsFactory::make(): invalid parameter key");
   return table;
 }
 

@@ -18,7 +18,8 @@ void JsonLoadSettingsRuleReservoir::load(const json& object) const {
   const auto type = Helper::findOptional<std::string>(found, object, "ReleaseRuleType");
   if (!found) return;
   const std::shared_ptr<ReleaseRule> rule = ReleaseRuleFactory::make(type);
-  JsonLoadReleaseRuleFactory::make(type, rule, getScenario())
-      ->load(Helper::findRequired(object, "ReleaseRule"));
+  const json& ruleObject = Helper::findRequired(object, "ReleaseRule");
+  const auto reader = JsonLoadReleaseRuleFactory::make(type, rule, getScenario());
+  Helper::at(ruleObject, [&] { reader->load(ruleObject); });
   settings->setRule(rule);
 }

@@ -2,6 +2,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
+#include <limits>
+#include <locale>
+#include <sstream>
 
 #include "common/NumericalUtils.h"
 #include "common/Serie.h"
@@ -63,12 +67,25 @@ std::string JsonSaveBuilder::makeVectorOfFloatingValues(const std::vector<double
   return makeArray(values, makeFloatingValue);
 }
 
+std::string JsonSaveBuilder::makeVectorOfExactValues(const std::vector<double>& values) {
+  return makeArray(values, [](double value) {
+    std::ostringstream out;
+    out.imbue(std::locale::classic());
+    out << std::setprecision(std::numeric_limits<double>::max_digits10) << value;
+    return out.str();
+  });
+}
+
 std::string JsonSaveBuilder::makeSerie(const Serie& serie) {
+  return makeSerie(serie.getName(), serie);
+}
+
+std::string JsonSaveBuilder::makeSerie(const std::string& key, const Serie& serie) {
   std::string text = "[";
   for (const auto& [julian, value] : serie.getMapOfJulianToValues()) {
     text +=
         "{" + makeJsonKeyValue("julianDay", julian) + "," + makeJsonKeyValue("value", value) + "},";
   }
   if (!serie.getMapOfJulianToValues().empty()) text.pop_back();
-  return makeJsonKeyValue(serie.getName(), text + "]");
+  return makeJsonKeyValue(key, text + "]");
 }

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "project/JsonMakerTable.h"
+#include "project/JsonSaveExecutionOptimization.h"
 #include "vocabulary/Vocabulary.h"
 
 namespace {
@@ -15,11 +16,17 @@ std::shared_ptr<JsonSaveExecutionMethod> makeCommonOnly(
   return std::make_shared<JsonSaveExecutionMethod>(method);
 }
 
+std::shared_ptr<JsonSaveExecutionMethod> makeOptimization(
+    const std::shared_ptr<ExecutionMethod>& method) {
+  return std::make_shared<JsonSaveExecutionOptimization>(method);
+}
+
 const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(ExecutionType::continuous).getName(), makeCommonOnly},
           {Vocabulary::of(ExecutionType::windowed).getName(), makeCommonOnly},
+          {Vocabulary::of(ExecutionType::optimization).getName(), makeOptimization},
       },
       "JsonSaveExecutionMethodFactory::make(): invalid ExecutionType");
   return table;

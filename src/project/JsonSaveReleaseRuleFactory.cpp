@@ -4,6 +4,8 @@
 
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveHydrologicalStateReleaseRule.h"
+#include "project/JsonSaveOptReleaseRule.h"
+#include "project/JsonSaveOptVolDepReleaseRule.h"
 #include "project/JsonSaveVolDepOneReleaseRule.h"
 #include "project/JsonSaveVolDepTwoReleaseRule.h"
 #include "vocabulary/Vocabulary.h"
@@ -33,6 +35,15 @@ const JsonMakerTable<Maker>& makers() {
           {nameOf(R::periodicVolumeDependence1), makeWriter<JsonSaveVolDepOneReleaseRule>},
           {nameOf(R::staticVolumeDependence2), makeWriter<JsonSaveVolDepTwoReleaseRule>},
           {nameOf(R::periodicVolumeDependence2), makeWriter<JsonSaveVolDepTwoReleaseRule>},
+          {nameOf(R::optNone), makeWriter<JsonSaveReleaseRule>},
+          {nameOf(R::optConstant), makeWriter<JsonSaveOptConstReleaseRule>},
+          {nameOf(R::optPeriodic), makeWriter<JsonSaveOptPeriodicReleaseRule>},
+          {nameOf(R::optSerie), makeWriter<JsonSaveOptSerieReleaseRule>},
+          {nameOf(R::optStaticVolumeDependence1), makeWriter<JsonSaveOptVolDepOneReleaseRule>},
+          {nameOf(R::optPeriodicVolumeDependence1), makeWriter<JsonSaveOptVolDepOneReleaseRule>},
+          {nameOf(R::optStaticVolumeDependence2), makeWriter<JsonSaveOptVolDepTwoReleaseRule>},
+          {nameOf(R::optPeriodicVolumeDependence2), makeWriter<JsonSaveOptVolDepTwoReleaseRule>},
+          {nameOf(R::optHydrologicalState), makeWriter<JsonSaveOptHydrologicalStateReleaseRule>},
       },
       "JsonSaveReleaseRuleFactory::make(): invalid ReleaseRuleType");
   return table;

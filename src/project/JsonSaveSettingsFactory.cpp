@@ -1,6 +1,7 @@
 #include "project/JsonSaveSettingsFactory.h"
 
 #include <functional>
+#include <map>
 
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveSettingsPriorityDemand.h"
@@ -25,34 +26,39 @@ Key keyOf(ScenarioType scenario, ElementType element) {
   return {Vocabulary::of(scenario).getName(), Vocabulary::of(element).getName()};
 }
 
-const JsonMakerTable<Maker, Key>& makers() {
+// Every kind run by release rules reads and writes its elements' settings alike.
+std::map<Key, Maker> rows() {
   using E = ElementType;
-  const ScenarioType rules = ScenarioType::ruleSimulator;
+  std::map<Key, Maker> rows;
+  for (ScenarioType rules : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer}) {
+    rows.emplace(keyOf(rules, E::reservoir), makeWriter<JsonSaveSettingsRuleReservoir>);
+    rows.emplace(keyOf(rules, E::junction), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::basin), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::humanDemand), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::animalDemand), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::industrialDemand), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::irrigationDemand), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::drain), makeWriter<JsonSaveSettingsRule>);
+    rows.emplace(keyOf(rules, E::naturalLink), makeWriter<JsonSaveSettingsRuleLink>);
+    rows.emplace(keyOf(rules, E::artificialLink), makeWriter<JsonSaveSettingsRuleLink>);
+  }
   const ScenarioType priorities = ScenarioType::priorityOptimizer;
+  rows.emplace(keyOf(priorities, E::reservoir), makeWriter<JsonSaveSettingsPriorityReservoir>);
+  rows.emplace(keyOf(priorities, E::junction), makeWriter<JsonSaveSettingsPriorityPassive>);
+  rows.emplace(keyOf(priorities, E::basin), makeWriter<JsonSaveSettingsPriorityPassive>);
+  rows.emplace(keyOf(priorities, E::humanDemand), makeWriter<JsonSaveSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::animalDemand), makeWriter<JsonSaveSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::industrialDemand), makeWriter<JsonSaveSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::irrigationDemand), makeWriter<JsonSaveSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::drain), makeWriter<JsonSaveSettingsPriorityDemand>);
+  rows.emplace(keyOf(priorities, E::naturalLink), makeWriter<JsonSaveSettingsPriorityPassive>);
+  rows.emplace(keyOf(priorities, E::artificialLink), makeWriter<JsonSaveSettingsPriorityPassive>);
+  return rows;
+}
+
+const JsonMakerTable<Maker, Key>& makers() {
   static const JsonMakerTable<Maker, Key> table(
-      {
-          {keyOf(rules, E::reservoir), makeWriter<JsonSaveSettingsRuleReservoir>},
-          {keyOf(rules, E::junction), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::basin), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::humanDemand), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::animalDemand), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::industrialDemand), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::irrigationDemand), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::drain), makeWriter<JsonSaveSettingsRule>},
-          {keyOf(rules, E::naturalLink), makeWriter<JsonSaveSettingsRuleLink>},
-          {keyOf(rules, E::artificialLink), makeWriter<JsonSaveSettingsRuleLink>},
-          {keyOf(priorities, E::reservoir), makeWriter<JsonSaveSettingsPriorityReservoir>},
-          {keyOf(priorities, E::junction), makeWriter<JsonSaveSettingsPriorityPassive>},
-          {keyOf(priorities, E::basin), makeWriter<JsonSaveSettingsPriorityPassive>},
-          {keyOf(priorities, E::humanDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
-          {keyOf(priorities, E::animalDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
-          {keyOf(priorities, E::industrialDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
-          {keyOf(priorities, E::irrigationDemand), makeWriter<JsonSaveSettingsPriorityDemand>},
-          {keyOf(priorities, E::drain), makeWriter<JsonSaveSettingsPriorityDemand>},
-          {keyOf(priorities, E::naturalLink), makeWriter<JsonSaveSettingsPriorityPassive>},
-          {keyOf(priorities, E::artificialLink), makeWriter<JsonSaveSettingsPriorityPassive>},
-      },
-      "JsonSaveSettingsFactory::make(): invalid parameter key");
+      rows(), "JsonSaveSettingsFactory::make(): invalid parameter key");
   return table;
 }
 

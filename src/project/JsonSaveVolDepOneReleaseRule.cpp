@@ -6,17 +6,18 @@
 
 using B = JsonSaveBuilder;
 
-std::string JsonSaveVolDepOneReleaseRule::toJson() const {
+std::string JsonSaveVolDepOneReleaseRule::toJson() const { return B::makeObject(members()); }
+
+JsonSaveBuilder::Members JsonSaveVolDepOneReleaseRule::members() const {
   const auto& rule = getRule<VolDepOneReleaseRule>();
   const auto row = [](const VolDepOneReleaseStruct& step) {
     return B::makeObject(
         {B::makeJsonKeyValue("Percentage", step.percentage),
          B::makeJsonKeyValue("Release", B::makeVectorOfFloatingValues(step.releases))});
   };
-  return B::makeObject(
-      {B::makeJsonKeyValue("Reservoir", dependencyValue(rule.getReservoirDependency())),
-       B::makeJsonKeyValue("VolDepOneVector",
-                           B::makeArray(rule.getVectorOfVolDepOneReleaseStruct(), row))});
+  return {B::makeJsonKeyValue("Reservoir", dependencyValue(rule.getReservoirDependency())),
+          B::makeJsonKeyValue("VolDepOneVector",
+                              B::makeArray(rule.getVectorOfVolDepOneReleaseStruct(), row))};
 }
 
 std::string JsonSaveVolDepOneReleaseRule::dependencyValue(

@@ -72,11 +72,12 @@ TEST(ProjectFactories, EveryElementType) {
   }
 }
 
-// Each simulation rule goes through its writer and its reader and comes back the same.
+// Each rule, simulation or optimisable, goes through its writer and its reader and comes back the
+// same.
 TEST(ProjectFactories, EveryReleaseRuleRoundTrips) {
   const auto scenario = emptyScenario();
   EXPECT_EQ(JsonSaveReleaseRuleFactory::keys(), JsonLoadReleaseRuleFactory::keys());
-  EXPECT_EQ(JsonLoadReleaseRuleFactory::keys().size(), 9u);
+  EXPECT_EQ(JsonLoadReleaseRuleFactory::keys().size(), 18u);
   for (const auto& key : JsonLoadReleaseRuleFactory::keys()) {
     SCOPED_TRACE(key);
     const auto rule = ReleaseRuleFactory::make(key);
@@ -112,11 +113,13 @@ TEST(ProjectFactories, EveryLinkAddonRoundTrips) {
 
 TEST(ProjectFactories, KindsReadAndWrittenToday) {
   using Names = std::vector<std::string>;
-  const Names scenarios = {"Otimizador por prioridades", "Simulador por regras"};
+  const Names scenarios = {"Otimizador de regras", "Otimizador por prioridades",
+                           "Simulador por regras"};
   EXPECT_EQ(JsonLoadScenarioFactory::keys(), scenarios);
   EXPECT_EQ(JsonSaveSceneryFactory::keys(), scenarios);
-  EXPECT_EQ(JsonLoadExecutionMethodFactory::keys(), (Names{"Contínuo", "Janela"}));
-  EXPECT_EQ(JsonSaveExecutionMethodFactory::keys(), (Names{"Contínuo", "Janela"}));
+  const Names methodNames = {"Contínuo", "Janela", "Otimização"};
+  EXPECT_EQ(JsonLoadExecutionMethodFactory::keys(), methodNames);
+  EXPECT_EQ(JsonSaveExecutionMethodFactory::keys(), methodNames);
   const Names addons = {"Bombeamento", "Nenhum", "Propagação"};
   EXPECT_EQ(JsonLoadLinkAddonFactory::keys(), addons);
   EXPECT_EQ(JsonSaveLinkAddonFactory::keys(), addons);
@@ -125,11 +128,12 @@ TEST(ProjectFactories, KindsReadAndWrittenToday) {
   // Each scenario kind read and written has a settings object for each of the ten element kinds.
   const auto settingsKeys = JsonSaveSettingsFactory::keys();
   EXPECT_EQ(settingsKeys, JsonLoadSettingsFactory::keys());
-  ASSERT_EQ(settingsKeys.size(), 20u);
+  ASSERT_EQ(settingsKeys.size(), 30u);
   std::map<std::string, std::size_t> kindsPerScenario;
   for (const auto& [scenarioType, elementType] : settingsKeys) ++kindsPerScenario[scenarioType];
   EXPECT_EQ(kindsPerScenario,
-            (std::map<std::string, std::size_t>{{scenarios[0], 10}, {scenarios[1], 10}}));
+            (std::map<std::string, std::size_t>{
+                {scenarios[0], 10}, {scenarios[1], 10}, {scenarios[2], 10}}));
   const auto& methods = JsonLoadExecutionMethodFactory::make("Janela")->load(
       nlohmann::json::object(), emptyScenario()->getInterval());
   EXPECT_EQ(methods->getExecutionType().getType(), ExecutionType::windowed);
@@ -143,7 +147,7 @@ TEST(ProjectFactories, UnknownKeysHaveTheirMessages) {
        "JsonLoadScenarioFactory::make(): invalid scenarioType"},
       {[] { JsonSaveSceneryFactory::make(nullptr); },
        "JsonSaveSceneryFactory::make(): invalid scenarioType"},
-      {[] { JsonLoadExecutionMethodFactory::make("Otimização"); },
+      {[] { JsonLoadExecutionMethodFactory::make("Curva de garantia"); },
        "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType"},
       {[&] { JsonLoadElementFactory::makeNode("Trecho", scenario); },
        "JsonLoadElementFactory::make(): invalid elementType"},

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+#include <nlohmann/json.hpp>
+
+#include "optimization/ExecutionOptimization.h"
+#include "project/JsonLoadExecutionMethod.h"
+
+// Reads the method of a rule optimisation: the common part, then "objectiveFunctions" (each
+// function by its name, without its elements: the scenario's reader gives them once every element
+// is read), "personalizedObjectiveFunctions" (optional; this version reads only an empty list)
+// and "OptAlgorithm", whose swarm is set as it stands, even with fewer than two functions, which
+// the scenario's check then reports.
+class JsonLoadExecutionOptimization : public JsonLoadExecutionMethod {
+ public:
+  JsonLoadExecutionOptimization();
+
+ protected:
+  std::shared_ptr<ExecutionMethod> makeInstance(const Interval& interval) const override;
+  void loadSpecific(const nlohmann::json& object, ExecutionMethod& method) const override;
+
+ private:
+  static void loadObjectiveFunctions(const nlohmann::json& object, ExecutionOptimization& method);
+  static void loadAlgorithm(const nlohmann::json& object, ExecutionOptimization& method);
+};

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -12,10 +13,10 @@ class Serie;
 
 // Writes the result series of one run into SerieOutput through statements prepared once: a run
 // stores millions of rows, and preparing, looking up or formatting anything per series or per row
-// would cost more than the rows themselves. Each series replaces the enabled rows of its element,
-// type and window: with ConfigurationHeader::isSaveOnlyOneResults() the former rows go, without it
-// they stay as history (enabled 0). The caller holds the transaction; every SQLite failure is an
-// SQLite::Exception.
+// would cost more than the rows themselves. A series goes in blocks of rows per statement. Each
+// series replaces the enabled rows of its element, type and window: with
+// ConfigurationHeader::isSaveOnlyOneResults() the former rows go, without it they stay as history
+// (enabled 0). The caller holds the transaction; every SQLite failure is an SQLite::Exception.
 class ResultSeriesWriter {
  public:
   ResultSeriesWriter(SQLite::Database& storage, std::string timeStamp, std::string timeStampHash);
@@ -32,7 +33,10 @@ class ResultSeriesWriter {
   // the insert can bind it without a copy.
   const std::string& dateText(unsigned int julian);
   void requireElement(int64_t elementId);
+  // The insert of rows values, prepared the first time a series needs a block of that size.
+  SQLite::Statement& insertOf(std::size_t rows);
 
+  SQLite::Database& storage;
   const std::string timeStamp;
   const std::string timeStampHash;
   const int64_t userId;
@@ -40,7 +44,7 @@ class ResultSeriesWriter {
   SQLite::Statement findType;
   SQLite::Statement findElement;
   SQLite::Statement retire;
-  SQLite::Statement insert;
+  std::map<std::size_t, std::unique_ptr<SQLite::Statement>> inserts;
   std::map<std::pair<std::string, std::string>, int64_t> typeRows;
   std::unordered_map<unsigned int, std::string> dates;
   int64_t knownElement = 0;

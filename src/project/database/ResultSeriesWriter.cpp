@@ -4,6 +4,8 @@
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
+#include <algorithm>
+
 #include "common/Serie.h"
 #include "core/ConfigurationHeader.h"
 #include "project/database/SerieSaver.h"
@@ -20,24 +22,37 @@ std::string retireStatement() {
              : "UPDATE SerieOutput SET enabled = 0" + where;
 }
 
+// Rows stored by one step of the insert. A step has a fixed cost (the statement's setup and
+// reset, the binding of the run's columns) that a block pays once for all its rows.
+constexpr std::size_t kBlockRows = 64;
+
+// The insert of rows values: ?1 to ?6 are the columns that the rows of a series share, then the
+// date, julian day and value of each row in turn.
+std::string insertText(std::size_t rows) {
+  std::string text =
+      "INSERT INTO SerieOutput (windowid, timeStamp, timeStampHash, enabled, type, elementID, "
+      "userID, date, julian, value) VALUES ";
+  for (std::size_t row = 0; row < rows; ++row) {
+    const std::size_t first = 7 + 3 * row;
+    text += (row == 0 ? "" : ",") + std::string("(?1, ?2, ?3, 1, ?4, ?5, ?6, ?") +
+            std::to_string(first) + ", ?" + std::to_string(first + 1) + ", ?" +
+            std::to_string(first + 2) + ")";
+  }
+  return text;
+}
+
 }  // namespace
 
 ResultSeriesWriter::ResultSeriesWriter(SQLite::Database& storage, std::string timeStamp,
                                        std::string timeStampHash)
-    : timeStamp(std::move(timeStamp)),
+    : storage(storage),
+      timeStamp(std::move(timeStamp)),
       timeStampHash(std::move(timeStampHash)),
       userId(UserLiteSaver::defaultUserId(storage)),
       findUnit(storage, "SELECT id FROM Unit WHERE name = ? ORDER BY id"),
       findType(storage, "SELECT id FROM SerieType WHERE unit = ? AND type = ? ORDER BY id"),
       findElement(storage, "SELECT 1 FROM Element WHERE databaseId = ?"),
-      retire(storage, retireStatement()),
-      insert(storage,
-             "INSERT INTO SerieOutput (windowid, timeStamp, timeStampHash, enabled, type, "
-             "elementID, userID, date, julian, value) VALUES (?1, ?2, ?3, 1, ?4, ?5, ?6, ?7, ?8, ?9)") {
-  insert.bindNoCopy(2, this->timeStamp);
-  insert.bindNoCopy(3, this->timeStampHash);
-  insert.bind(6, userId);
-}
+      retire(storage, retireStatement()) {}
 
 bool ResultSeriesWriter::write(int64_t elementId, const Serie& serie, unsigned int windowId) {
   const int64_t type = serieTypeRow(serie);
@@ -49,17 +64,33 @@ bool ResultSeriesWriter::write(int64_t elementId, const Serie& serie, unsigned i
   retire.bind(3, window);
   retire.exec();
   retire.reset();
-  insert.bind(1, window);
-  insert.bind(4, type);
-  insert.bind(5, elementId);
-  for (const auto& [julian, value] : serie.getMapOfJulianToValues()) {
-    insert.bindNoCopy(7, dateText(julian));
-    insert.bind(8, static_cast<int64_t>(julian));
-    insert.bind(9, value);
+  const auto& values = serie.getMapOfJulianToValues();
+  for (auto row = values.begin(); row != values.end();) {
+    const auto rows = std::min<std::size_t>(kBlockRows, values.end() - row);
+    SQLite::Statement& insert = insertOf(rows);
+    insert.bind(1, window);
+    insert.bind(4, type);
+    insert.bind(5, elementId);
+    for (std::size_t i = 0; i < rows; ++i, ++row) {
+      const int first = 7 + 3 * static_cast<int>(i);
+      insert.bindNoCopy(first, dateText(row->first));
+      insert.bind(first + 1, static_cast<int64_t>(row->first));
+      insert.bind(first + 2, row->second);
+    }
     insert.exec();
     insert.reset();
   }
   return true;
+}
+
+SQLite::Statement& ResultSeriesWriter::insertOf(std::size_t rows) {
+  auto found = inserts.find(rows);
+  if (found != inserts.end()) return *found->second;
+  auto insert = std::make_unique<SQLite::Statement>(storage, insertText(rows));
+  insert->bindNoCopy(2, timeStamp);
+  insert->bindNoCopy(3, timeStampHash);
+  insert->bind(6, userId);
+  return *inserts.emplace(rows, std::move(insert)).first->second;
 }
 
 int64_t ResultSeriesWriter::serieTypeRow(const Serie& serie) {

@@ -8,6 +8,7 @@ packages=(
   build-essential cmake pkg-config
   libgtest-dev libgmock-dev libbenchmark-dev
   liblpsolve55-dev libcolamd2 libsuitesparse-dev
+  coinor-libclp-dev
   libsqlite3-dev libsqlitecpp-dev
   nlohmann-json3-dev
   libboost-date-time-dev libboost-nowide-dev libboost-filesystem-dev

@@ -5,22 +5,28 @@
 #include "OpenProject.h"
 #include "ProgressReporter.h"
 #include "ScenarioFindings.h"
+#include "UsageError.h"
+#include "core/ConfigurationHeader.h"
 #include "core/KOVACoreProgressBar.h"
 #include "core/Scenario.h"
+#include "operation/LinearProgramSolverFactory.h"
 #include "reports/CSVWriteFile.h"
 #include "reports/CSVWriteResults.h"
 #include "scenario/ScenarioManager.h"
 
 Command RunCommand::describe() {
   return {"run",
-          "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet]",
+          "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet] "
+          "[--solver lpsolve|clp]",
           "run scenarios and store their results",
           "Runs the named scenarios (all when none is named) one after the other, printing each\n"
           "one's status. Results are stored in the project database unless --no-save; --csv DIR\n"
           "also writes them as CSV files under DIR. Progress goes to standard error (none with\n"
           "--quiet). Ctrl-C cancels the scenario running and leaves the database as it was.\n"
+          "--solver chooses the solver of the priority programmes for this run, whatever the\n"
+          "project names (lp_solve unless it names CLP).\n"
           "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
-          {{"csv"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
+          {{"csv", "solver"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
           run};
 }
 
@@ -28,11 +34,17 @@ int RunCommand::run(const CommandLine& line, Console& console) {
   ProgressReporter progress(console, line.has("quiet"));
   Interrupt::Guard interruptible;
   if (line.has("csv")) CSVWriteFile::requireWritableFolder(line.value("csv", ""));
+  const std::string solver = line.value("solver", "");
+  if (line.has("solver") && !LinearProgramSolverFactory::has(solver)) {
+    throw UsageError("--solver: unknown solver \"" + solver + "\", expected " +
+                     LinearProgramSolverFactory::keysText());
+  }
   OpenProject project(line.positional(0),
                       progress.callback("opening", ProgressReporter::Form::steps),
                       line.has("no-save") ? OpenProject::Access::readOnly
                                           : OpenProject::Access::readWrite);
   progress.finish();
+  if (line.has("solver")) ConfigurationHeader::setLinearProgramSolver(solver);
   int status = exitOk;
   for (const auto& scenario : project.select(line.values("scenario"))) {
     const int outcome = runScenario(project, scenario, line, console, progress);

@@ -49,6 +49,11 @@ class ConfigurationHeader {
   static void setFolderToSaveSimulationModels(const std::string& value);
   static bool getKeepTheSimulationFilesAfterExecution();
   static void setKeepTheSimulationFilesAfterExecution(bool value);
+  // The key of the solver of the priority programmes, "lpsolve" unless the project names another
+  // (LinearProgramSolverFactory knows the keys).
+  static const std::string& getLinearProgramSolver();
+  static void setLinearProgramSolver(const std::string& key);
+  static const std::string& defaultLinearProgramSolver();
   static const std::vector<CoreReservoirColor>& getCoreReservoirColors();
   static void setCoreReservoirColors(const std::vector<CoreReservoirColor>& value);
 
@@ -72,6 +77,7 @@ class ConfigurationHeader {
     unsigned int maxNumberOfErrors = 20;
     std::string simulationURL;
     bool keepTheSimulationFilesAfterExecution = false;
+    std::string linearProgramSolver = defaultLinearProgramSolver();
     std::vector<CoreReservoirColor> colors = {
         {178, 246, 61, 100.0}, {0, 100, 0, 50.0}, {255, 13, 0, 0.0}};
     std::map<unsigned int, bool> oldTrafficLimit;

@@ -100,7 +100,8 @@ class NetworkFlow {
   // std::invalid_argument "Invalid serie type!" for a link without a limit series.
   void createModel(const Elements& elements, const MapOfPriority& map, unsigned int priority,
                    bool zeroContribution);
-  // Solves the programme: true, or NetflowOptimalException without an optimal solution.
+  // Solves the programme with the solver of the configuration, or with the one taken over from
+  // the date before: true, or NetflowOptimalException without an optimal solution.
   bool executeModel();
   // Write the programme / its solution to getModelFilename() / getModelSolutionFilename() when
   // the configuration keeps simulation files; otherwise nothing.
@@ -122,9 +123,9 @@ class NetworkFlow {
 
   // The programme of the last pass.
   const KLPKRepresentation& getProblem() const { return *problem; }
-  // Takes over the solver's model that the network flow of the previous date keeps, so that
-  // this date's passes reuse it where their programmes have its shape.
-  void adoptSolverModel(NetworkFlow& previous) { problem->adoptKeptModel(*previous.problem); }
+  // Takes over the solver, and the model it keeps, of the network flow of the previous date, so
+  // that this date's passes reuse it where their programmes have its shape.
+  void adoptSolverModel(NetworkFlow& previous);
 
  protected:
   // The value of a junction's row, to which terms may be added first; 0.0 here.
@@ -154,6 +155,7 @@ class NetworkFlow {
   void makeBoundSubjects(const Elements& nodes);
 
   KLPKRepresentation* problem;
+  bool solverChosen = false;
   std::shared_ptr<HydrologicalBalance> hydrologicalBalance;
   std::shared_ptr<HydrologicalStateCalculator> hydrologicalStateCalculator;
   const SettingsManager* settingsManager;

@@ -70,6 +70,19 @@ bool ConfigurationHeader::getKeepTheSimulationFilesAfterExecution() {
 void ConfigurationHeader::setKeepTheSimulationFilesAfterExecution(bool value) {
   values().keepTheSimulationFilesAfterExecution = value;
 }
+
+const std::string& ConfigurationHeader::getLinearProgramSolver() {
+  return values().linearProgramSolver;
+}
+
+void ConfigurationHeader::setLinearProgramSolver(const std::string& key) {
+  values().linearProgramSolver = key;
+}
+
+const std::string& ConfigurationHeader::defaultLinearProgramSolver() {
+  static const std::string key = "lpsolve";
+  return key;
+}
 const std::vector<ConfigurationHeader::CoreReservoirColor>&
 ConfigurationHeader::getCoreReservoirColors() {
   return values().colors;

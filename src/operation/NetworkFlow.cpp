@@ -15,6 +15,7 @@
 #include "core/Reservoir.h"
 #include "core/ReservoirOperationUtils.h"
 #include "core/Scenario.h"
+#include "operation/LinearProgramSolverFactory.h"
 #include "operation/PriorityCalculator.h"
 #include "operation/ReservoirHydrologicalStateCalculator.h"
 
@@ -134,8 +135,19 @@ void NetworkFlow::createModel(const Elements& elements, const MapOfPriority& map
 }
 
 bool NetworkFlow::executeModel() {
+  if (!solverChosen) {
+    problem->useSolver(
+        LinearProgramSolverFactory::make(ConfigurationHeader::getLinearProgramSolver()));
+    solverChosen = true;
+  }
   if (KLPKUtils::slp_simplex(problem) != 0) throw NetflowOptimalException();
   return true;
+}
+
+void NetworkFlow::adoptSolverModel(NetworkFlow& previous) {
+  if (!previous.solverChosen) return;
+  problem->adoptKeptModel(*previous.problem);
+  solverChosen = true;
 }
 
 void NetworkFlow::writeModel(unsigned int value) const {

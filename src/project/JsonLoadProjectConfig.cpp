@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/ConfigurationHeader.h"
+#include "operation/LinearProgramSolverFactory.h"
 #include "project/JsonLoadHelper.h"
 
 using json = nlohmann::json;
@@ -26,6 +27,20 @@ ConfigurationHeader::CoreReservoirColor readColor(const json& object) {
   return {JsonLoadHelper::getRequired<unsigned int>(object, "r"),
           JsonLoadHelper::getRequired<unsigned int>(object, "g"),
           JsonLoadHelper::getRequired<unsigned int>(object, "b"), value};
+}
+
+// A project that names no solver keeps lp_solve, so files written before the key existed run as
+// they always did.
+void readSolver(const json& configuration, Changes& changes) {
+  bool found = false;
+  const json& value = JsonLoadHelper::findOptional(found, configuration, "linearProgramSolver");
+  const std::string key = found ? JsonLoadHelper::get<std::string>(value)
+                                : ConfigurationHeader::defaultLinearProgramSolver();
+  if (!LinearProgramSolverFactory::has(key)) {
+    JsonLoadHelper::refuse(
+        value, "a linear programme solver (" + LinearProgramSolverFactory::keysText() + ")");
+  }
+  changes.push_back([key] { ConfigurationHeader::setLinearProgramSolver(key); });
 }
 
 void readColors(const json& configuration, Changes& changes) {
@@ -62,6 +77,7 @@ void JsonLoadProjectConfig::load(const json& root) {
   read(configuration, "simulationURL", C::setFolderToSaveSimulationModels, changes);
   read(configuration, "keepTheSimulationFilesAfterExecution",
        C::setKeepTheSimulationFilesAfterExecution, changes);
+  readSolver(configuration, changes);
   readColors(configuration, changes);
   const unsigned int zone = C::getUtmZone();
   try {

@@ -12,9 +12,12 @@ rm -rf "$folder"
 "$kova" demo "$folder" --quiet
 "$kova" info "$project"
 echo
-"$kova" run "$project" --quiet
+"$kova" run "$project" --quiet --seed 1
 for scenario in "Regras" "Prioridades" "Janelas a partir do armazenamento atual"; do
   echo
   echo "== $scenario"
   "$kova" metrics "$project" --scenario "$scenario"
 done
+echo
+echo "== Otimização das regras"
+"$kova" front "$project" --scenario "Otimização das regras"

@@ -16,8 +16,11 @@
 #include "managers/CoreServiceManager.h"
 #include "operation/ExecutionContinuous.h"
 #include "operation/ExecutionMethodFactoryByType.h"
+#include "optimization/RuleOptimizationScenario.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
+#include "rules/OptHydrologicalStateReleaseRule.h"
+#include "rules/OptVolDepOneStaticReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
 #include "rules/VolDepOneStaticReleaseRule.h"
 #include "scenario/PriorityScenario.h"
@@ -34,6 +37,9 @@ using DemandPtr = std::shared_ptr<Demand>;
 constexpr double kUnlimited = 99999.0;     // m³/s, a link without a limit
 constexpr double kInitialShare = 0.7;      // of the useful volume, at the start of the record
 constexpr unsigned int kWindowMonth = 11;  // the wet season, and the hydrological year, begin
+// The swarm of the optimisation: 16 particles over 15 iterations, 256 simulations in all.
+constexpr std::uint32_t kSwarm = 16;
+constexpr std::uint32_t kIterations = 15;
 
 // The data files, read once.
 struct DemoData {
@@ -380,6 +386,53 @@ Network addNetwork(const DemoData& data, const std::shared_ptr<Scenario>& scenar
   return NetworkMaker(data, scenario).make();
 }
 
+// The operating rules of the rule scenario, but the releases of the three big lakes are left to
+// a swarm that weighs the consumers' deficit against the water the lakes spill: the steps of
+// Três Marias and Itaparica by their own storage, and those of Sobradinho by the storage of the
+// system, keep their limits and let the swarm choose their releases up to a maximum.
+void leaveReleasesToTheSwarm(const std::shared_ptr<RuleOptimizationScenario>& scenario,
+                             const Network& n) {
+  constexpr double mark = OptReleaseRule::kDecisionMark;
+  const auto setRule = [&](const ReservoirPtr& reservoir,
+                           const std::shared_ptr<ReleaseRule>& rule) {
+    Scenario::getSettings<ReservoirRuleSettings>(reservoir, scenario->getSettingsManager())
+        ->setRule(rule);
+  };
+  const auto byOwnStorage = [&](const ReservoirPtr& reservoir,
+                                const std::vector<VolDepOneReleaseStruct>& steps, double most) {
+    auto rule = std::make_shared<OptVolDepOneStaticReleaseRule>();
+    rule->setReservoirDependency(reservoir);
+    rule->setVectorOfVolDepOneReleaseStruct(steps);
+    auto marked = steps;
+    for (auto& step : marked) step.releases = {mark};
+    rule->setToOptVectorOfVolDepOneReleaseStruct(marked);
+    rule->setMaxRelease(most);
+    setRule(reservoir, rule);
+  };
+  byOwnStorage(n.tresMarias, {{30, {300}}, {70, {500}}, {100, {800}}}, 1200.0);
+  byOwnStorage(n.itaparica, {{20, {700}}, {60, {1350}}, {100, {2100}}}, 3000.0);
+
+  auto bySystem = std::make_shared<OptHydrologicalStateReleaseRule>();
+  bySystem->setReservoirsOfSystem({n.tresMarias, n.sobradinho});
+  bySystem->setStates(3, {0.25, 0.6}, {550, 1400, 2200});
+  bySystem->setOptStates({0.25, 0.6}, {mark, mark, mark}, {80.0, 90.0, 95.0});
+  bySystem->setMaxRelease(3000.0);
+  setRule(n.sobradinho, bySystem);
+
+  auto& execution = scenario->getExecutionOptimization();
+  execution.cleanObjectiveFunctions();
+  scenario->addMinimizeObjectiveFunction(
+      ObjectiveFunctionType::shortageVolume,
+      {n.upperIrrigation, n.industry, n.cities, n.lowerIrrigation, n.transfer, n.livestock});
+  scenario->addMinimizeObjectiveFunction(ObjectiveFunctionType::spillVolume,
+                                         {n.tresMarias, n.sobradinho, n.itaparica});
+  execution.configureAlgorithm(OptimizationAlgorithmType::smpso);
+  auto& parameters = static_cast<MPSOParameters&>(*execution.getAlgorithmParameters());
+  parameters.swarmSize = kSwarm;
+  parameters.archiveSize = kSwarm;
+  parameters.maxIterations = kIterations;
+}
+
 // The storage at the end of the record, where the rule simulation left it.
 std::map<std::string, double> storageAtTheEnd(const std::shared_ptr<Scenario>& rules) {
   if (!rules->run(nullptr)) {
@@ -423,7 +476,13 @@ std::vector<std::shared_ptr<Scenario>> DemoProject::makeScenarios(
       reservoir->getReservoirInfo().initVol = storage.at(reservoir->getName());
     }
   }
-  return {rules, priorities, windows};
+
+  auto optimisation =
+      std::make_shared<RuleOptimizationScenario>(4, record, "Otimização das regras");
+  const Network optimised = addNetwork(data, optimisation);
+  RuleSettingsMaker(optimisation, optimised).apply();
+  leaveReleasesToTheSwarm(optimisation, optimised);
+  return {rules, priorities, windows, optimisation};
 }
 
 bool DemoProject::build(const std::filesystem::path& dataFolder, unsigned int lastYear,

@@ -9,6 +9,7 @@
 #include "ErrorText.h"
 #include "ExitStatus.h"
 #include "ExportCommand.h"
+#include "FrontCommand.h"
 #include "GenerateCommand.h"
 #include "InfoCommand.h"
 #include "MetricsCommand.h"
@@ -17,6 +18,7 @@
 #include "RunCommand.h"
 #include "SaveAsCommand.h"
 #include "SeriesCommand.h"
+#include "SolutionCommand.h"
 #include "UsageError.h"
 
 namespace {
@@ -30,10 +32,11 @@ bool asksForHelp(const std::vector<std::string>& args) {
 
 const std::vector<Command>& KovaApp::commands() {
   static const std::vector<Command> all = {
-      InfoCommand::describe(),    CheckCommand::describe(),   RunCommand::describe(),
-      MetricsCommand::describe(), SeriesCommand::describe(),  CompareCommand::describe(),
-      ReportCommand::describe(),  ExportCommand::describe(),  NewCommand::describe(),
-      SaveAsCommand::describe(),  DemoCommand::describe(),    GenerateCommand::describe()};
+      InfoCommand::describe(),    CheckCommand::describe(),    RunCommand::describe(),
+      MetricsCommand::describe(), SeriesCommand::describe(),   CompareCommand::describe(),
+      FrontCommand::describe(),   SolutionCommand::describe(), ReportCommand::describe(),
+      ExportCommand::describe(),  NewCommand::describe(),      SaveAsCommand::describe(),
+      DemoCommand::describe(),    GenerateCommand::describe()};
   return all;
 }
 

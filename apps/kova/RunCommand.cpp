@@ -3,6 +3,7 @@
 #include "ExitStatus.h"
 #include "Interrupt.h"
 #include "OpenProject.h"
+#include "OptimisationRun.h"
 #include "ProgressReporter.h"
 #include "ScenarioFindings.h"
 #include "UsageError.h"
@@ -17,7 +18,8 @@
 Command RunCommand::describe() {
   return {"run",
           "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet] "
-          "[--solver lpsolve|clp]",
+          "[--solver lpsolve|clp]\n"
+          "         [--seed N] [--threads K]",
           "run scenarios and store their results",
           "Runs the named scenarios (all when none is named) one after the other, printing each\n"
           "one's status. Results are stored in the project database unless --no-save; --csv DIR\n"
@@ -25,8 +27,13 @@ Command RunCommand::describe() {
           "--quiet). Ctrl-C cancels the scenario running and leaves the database as it was.\n"
           "--solver chooses the solver of the priority programmes for this run, whatever the\n"
           "project names (lp_solve unless it names CLP).\n"
+          "A rule optimisation shows its progress per simulation, then prints its front (one row\n"
+          "per solution, the value of each objective function) and stores it in the project file\n"
+          "(and the files VAR and FUN beside it) unless --no-save; --seed N makes its swarm\n"
+          "draw the same numbers every run, --threads K evaluates its candidates on K threads\n"
+          "(default: the machine's cores), with the same front whatever K.\n"
           "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
-          {{"csv", "solver"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
+          {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
           run};
 }
 
@@ -56,6 +63,7 @@ int RunCommand::run(const CommandLine& line, Console& console) {
 
 int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Scenario>& scenario,
                             const CommandLine& line, Console& console, ProgressReporter& progress) {
+  OptimisationRun::prepare(*scenario, line, project);
   std::function<bool(long, long)> save;
   if (!line.has("no-save"))
     save = progress.callback("saving " + scenario->getName(), ProgressReporter::Form::percentage);
@@ -80,6 +88,7 @@ int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Sc
       ScenarioFindings::printLast(*scenario, console.out);
       return exitFindings;
   }
+  OptimisationRun::finish(*scenario, line, project, console);
   if (line.has("csv")) {
     const auto files = CSVWriteResults::writeScenarios({scenario}, line.value("csv", ""));
     console.out << scenario->getName() << ": " << files.size() << " CSV file(s) written under "

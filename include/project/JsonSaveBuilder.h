@@ -20,7 +20,8 @@ class JsonSaveBuilder {
   using Members = std::vector<std::string>;
 
   // Writes the scenarios of the ScenarioManager, by index, and the configuration to path (UTF-8),
-  // replacing the file; false when the file could not be written. The text is made before the
+  // replacing the file only once the new text is whole; false, with the file as it was, when it
+  // could not be written. The text is made before the
   // file is opened, so the writer factories' std::invalid_argument leaves the file as it was.
   [[nodiscard]] static bool save(const std::string& path);
   // The project text of scenarios, in their order, with the present configuration. Throws

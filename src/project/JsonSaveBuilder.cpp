@@ -21,10 +21,21 @@ bool JsonSaveBuilder::save(const std::string& path) {
     scenarios.push_back(entry.second);
   }
   const std::string text = toJson(scenarios);
-  std::ofstream file(std::filesystem::u8path(path), std::ios::out);
+  // The text goes to a sibling first and replaces the file only once whole, so that a failed or
+  // interrupted write never leaves a project file cut short.
+  const std::filesystem::path target = std::filesystem::u8path(path);
+  const std::filesystem::path partial =
+      target.parent_path() / ("." + target.filename().string() + ".partial");
+  std::ofstream file(partial, std::ios::out);
   file << text;
   file.close();
-  return static_cast<bool>(file);
+  std::error_code error;
+  if (file) std::filesystem::rename(partial, target, error);
+  if (!file || error) {
+    std::filesystem::remove(partial, error);
+    return false;
+  }
+  return true;
 }
 
 std::string JsonSaveBuilder::toJson(const std::vector<std::shared_ptr<Scenario>>& scenarios) {

@@ -131,9 +131,8 @@ TEST(ProjectFactories, KindsReadAndWrittenToday) {
   ASSERT_EQ(settingsKeys.size(), 30u);
   std::map<std::string, std::size_t> kindsPerScenario;
   for (const auto& [scenarioType, elementType] : settingsKeys) ++kindsPerScenario[scenarioType];
-  EXPECT_EQ(kindsPerScenario,
-            (std::map<std::string, std::size_t>{
-                {scenarios[0], 10}, {scenarios[1], 10}, {scenarios[2], 10}}));
+  EXPECT_EQ(kindsPerScenario, (std::map<std::string, std::size_t>{
+                                  {scenarios[0], 10}, {scenarios[1], 10}, {scenarios[2], 10}}));
   const auto& methods = JsonLoadExecutionMethodFactory::make("Janela")->load(
       nlohmann::json::object(), emptyScenario()->getInterval());
   EXPECT_EQ(methods->getExecutionType().getType(), ExecutionType::windowed);

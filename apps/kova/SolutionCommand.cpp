@@ -1,0 +1,69 @@
+#include "SolutionCommand.h"
+
+#include "ExitStatus.h"
+#include "FrontTable.h"
+#include "Interrupt.h"
+#include "OpenProject.h"
+#include "UsageError.h"
+#include "managers/AutomatedScenarioBuilder.h"
+#include "optimization/RuleOptimizationScenario.h"
+#include "project/database/SaveProject.h"
+#include "scenario/RuleScenario.h"
+#include "scenario/ScenarioManager.h"
+
+namespace {
+
+// The index under which the manager keeps a new scenario: after every present one.
+unsigned int nextIndex() {
+  const auto& sceneries = ScenarioManager::getInstance().getSceneries();
+  return sceneries.empty() ? 0 : sceneries.rbegin()->first + 1;
+}
+
+}  // namespace
+
+Command SolutionCommand::describe() {
+  return {"solution",
+          "kova solution P.sjson --scenario NAME --row I",
+          "make the rule scenario of one solution of an optimisation's front",
+          "Makes the rule scenario \"NAME-SOL-I\" out of row I of the stored front of the rule\n"
+          "optimisation NAME (the rows 'kova front' prints): the same network and period, run\n"
+          "continuously, each optimisable rule replaced by the simulation rule that the row's\n"
+          "decision variables give. The scenario is saved into the project; 'kova run' then runs\n"
+          "it and reproduces the row's objective values.\n"
+          "Exit status: 0 made, 2 usage or file error (no such row, the scenario exists), 3\n"
+          "cancelled.\n",
+          {{"scenario", "row"}, {}, {}, 1, 1},
+          run};
+}
+
+int SolutionCommand::run(const CommandLine& line, Console& console) {
+  Interrupt::Guard interruptible;
+  OpenProject project(line.positional(0), nullptr, OpenProject::Access::readWrite);
+  const auto scenario = project.scenario(line.required("scenario"));
+  const auto& optimisation = FrontTable::optimisationOf(*scenario);
+  const std::size_t rows = optimisation.getMatrixOfSolutions().size();
+  if (!line.has("row")) throw UsageError("option --row is required");
+  const unsigned long row = line.number("row", 0, 0);
+  if (row >= rows) {
+    throw UsageError("option --row: scenario \"" + scenario->getName() + "\" has " +
+                     std::to_string(rows) + " solution(s) in its stored front" +
+                     (rows ? ", rows 0 to " + std::to_string(rows - 1) : std::string()));
+  }
+  const std::string name = scenario->getName() + "-SOL-" + std::to_string(row);
+  for (const auto& other : project.scenarios()) {
+    if (other->getName() == name) {
+      throw UsageError("the project already has a scenario named \"" + name + "\"");
+    }
+  }
+  const auto solution = AutomatedScenarioBuilder::makeRuleScenarioFromOptimization(
+      optimisation, static_cast<unsigned int>(row),
+      [](long, long) { return !Interrupt::requested(); });
+  if (!solution) return exitCancelled;
+  ScenarioManager::getInstance().addScenery(nextIndex(), solution);
+  if (!SaveProject::save(project.path().string(), nullptr)) {
+    throw std::runtime_error(project.path().string() + ": could not be written");
+  }
+  console.out << name << ": made from row " << row << " of \"" << scenario->getName()
+              << "\" and saved\n";
+  return exitOk;
+}

@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "ExitStatus.h"
+#include "KovaApp.h"
+#include "optimization/ObjectiveFunctionFactory.h"
+#include "optimization/RuleOptimizationScenario.h"
+#include "project/database/LoadProject.h"
+#include "project/database/SQLStorage.h"
+#include "scenario/ScenarioManager.h"
+#include "support/FileText.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kOptimisation = "Otimização das regras";
+
+struct Outcome {
+  int status;
+  std::string out, err;
+};
+
+Outcome kova(const std::vector<std::string>& args) {
+  std::ostringstream out, err;
+  Console console{out, err, false};
+  const int status = KovaApp::run(args, console);
+  return {status, out.str(), err.str()};
+}
+
+// The demo project over 1931-1933 in folder, its optimisation not run yet.
+std::string makeDemo(const TemporaryFolder& folder) {
+  const auto made =
+      kova({"demo", folder.file(""), "--data", KOVA_DEMO_DATA, "--until", "1933", "--quiet"});
+  EXPECT_EQ(made.status, exitOk) << made.err;
+  return folder.file("sao_francisco.sjson");
+}
+
+std::string frontCsv(const std::string& project) {
+  const auto front = kova({"front", project, "--scenario", kOptimisation, "--format", "csv"});
+  EXPECT_EQ(front.status, exitOk) << front.err;
+  return front.out;
+}
+
+std::vector<std::shared_ptr<Scenario>> openProject(const std::string& path) {
+  ScenarioManager::getInstance().clear();
+  SQLStorage::deleteInstance();
+  const auto scenarios = LoadProject::load(path, nullptr);
+  for (unsigned int i = 0; i < scenarios.size(); ++i) {
+    ScenarioManager::getInstance().addScenery(i, scenarios[i]);
+  }
+  return scenarios;
+}
+
+void closeProject() {
+  ScenarioManager::getInstance().clear();
+  SQLStorage::deleteInstance();
+}
+
+std::shared_ptr<Scenario> named(const std::vector<std::shared_ptr<Scenario>>& scenarios,
+                                const std::string& name) {
+  for (const auto& scenario : scenarios) {
+    if (scenario->getName() == name) return scenario;
+  }
+  ADD_FAILURE() << "no scenario " << name;
+  return nullptr;
+}
+
+}  // namespace
+
+TEST(KovaOptimization, ASeededRunPrintsAndStoresTheSameFrontOnOneAndTwoThreads) {
+  TemporaryFolder folder("kova_optimisation_");
+  const std::string project = makeDemo(folder);
+  const std::string fileBefore = readFile(project);
+
+  const auto dry = kova({"run", project, "--scenario", kOptimisation, "--seed", "4", "--threads",
+                         "2", "--no-save", "--quiet"});
+  ASSERT_EQ(dry.status, exitOk) << dry.err;
+  EXPECT_NE(dry.out.find("row  Déficit no atendimento à demanda  Volume vertido"),
+            std::string::npos)
+      << dry.out;
+  EXPECT_EQ(dry.err, "");
+  // Without saving, the project and its folder stay as they were.
+  EXPECT_EQ(readFile(project), fileBefore);
+  EXPECT_FALSE(fs::exists(folder.file("VAR")));
+
+  const auto one = kova(
+      {"run", project, "--scenario", kOptimisation, "--seed", "4", "--threads", "1", "--quiet"});
+  ASSERT_EQ(one.status, exitOk) << one.err;
+  EXPECT_EQ(one.out, dry.out);
+  const std::string stored = frontCsv(project);
+  EXPECT_NE(readFile(project), fileBefore);
+  EXPECT_TRUE(fs::exists(folder.file("VAR")));
+  EXPECT_TRUE(fs::exists(folder.file("FUN")));
+
+  const auto two = kova(
+      {"run", project, "--scenario", kOptimisation, "--seed", "4", "--threads", "2", "--quiet"});
+  ASSERT_EQ(two.status, exitOk) << two.err;
+  EXPECT_EQ(frontCsv(project), stored);
+  EXPECT_GT(std::count(stored.begin(), stored.end(), '\n'), 2);
+}
+
+TEST(KovaOptimization, TheScenarioOfARowReproducesItsObjectivesExactly) {
+  TemporaryFolder folder("kova_optimisation_");
+  const std::string project = makeDemo(folder);
+  ASSERT_EQ(kova({"run", project, "--scenario", kOptimisation, "--seed", "2", "--quiet"}).status,
+            exitOk);
+  const auto made = kova({"solution", project, "--scenario", kOptimisation, "--row", "0"});
+  ASSERT_EQ(made.status, exitOk) << made.err;
+  EXPECT_EQ(made.out,
+            kOptimisation + "-SOL-0: made from row 0 of \"" + kOptimisation + "\" and saved\n");
+  const auto again = kova({"solution", project, "--scenario", kOptimisation, "--row", "0"});
+  EXPECT_EQ(again.status, exitUsage);
+  EXPECT_NE(again.err.find("already has a scenario named"), std::string::npos) << again.err;
+  const auto outside = kova({"solution", project, "--scenario", kOptimisation, "--row", "900"});
+  EXPECT_EQ(outside.status, exitUsage);
+  EXPECT_NE(outside.err.find("solution(s) in its stored front"), std::string::npos);
+
+  const auto scenarios = openProject(project);
+  const auto& optimisation =
+      dynamic_cast<const RuleOptimizationScenario&>(*named(scenarios, kOptimisation));
+  const auto solution = named(scenarios, kOptimisation + "-SOL-0");
+  ASSERT_TRUE(solution->run(nullptr));
+  const auto& functions = optimisation.getExecutionOptimization().getVectorOfObjectiveFunctions();
+  const auto& row = optimisation.getMatrixOfObjectiveFunctionsValues().at(0);
+  ASSERT_EQ(row.size(), functions.size());
+  for (std::size_t i = 0; i < functions.size(); ++i) {
+    Scenario::Elements elements;
+    for (const auto& element : functions[i]->getElements()) {
+      elements.push_back(solution->getElement(element->getId()));
+    }
+    const auto function = ObjectiveFunctionFactory::make(functions[i]->getType().getType(),
+                                                         functions[i]->isMinimization(), elements);
+    EXPECT_EQ(function->getValue(0), row[i]) << functions[i]->getType().getName();
+  }
+  closeProject();
+}
+
+TEST(KovaOptimization, FrontAndSolutionRefuseWhatTheyCannotActOn) {
+  TemporaryFolder folder("kova_optimisation_");
+  const std::string project = makeDemo(folder);
+  const auto notRun = kova({"front", project, "--scenario", kOptimisation});
+  EXPECT_EQ(notRun.status, exitFindings);
+  EXPECT_EQ(notRun.err, "kova front: scenario \"" + kOptimisation +
+                            "\" has no stored front; run it with 'kova run'\n");
+  const auto rules = kova({"front", project, "--scenario", "Regras"});
+  EXPECT_EQ(rules.status, exitUsage);
+  EXPECT_NE(rules.err.find("not a rule optimisation"), std::string::npos) << rules.err;
+  const auto noRow = kova({"solution", project, "--scenario", kOptimisation});
+  EXPECT_EQ(noRow.status, exitUsage);
+  EXPECT_NE(noRow.err.find("option --row is required"), std::string::npos) << noRow.err;
+  const auto noThreads =
+      kova({"run", project, "--scenario", kOptimisation, "--threads", "0", "--no-save"});
+  EXPECT_EQ(noThreads.status, exitUsage);
+}

@@ -1,6 +1,7 @@
 #include "CheckCommand.h"
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "OpenProject.h"
 #include "ScenarioFindings.h"
 #include "core/Scenario.h"
@@ -8,10 +9,10 @@
 Command CheckCommand::describe() {
   return {"check",
           "kova check P.sjson [--scenario NAME]...",
-          "check scenarios before running them",
-          "Runs the checks of the named scenarios (all when none is named) and prints every\n"
-          "finding as its message followed by the place it names (element, series, date and\n"
-          "value, or the scenario). Exit status 1 when there is any finding.\n",
+          tr("check scenarios before running them"),
+          tr("Runs the checks of the named scenarios (all when none is named) and prints every\n"
+             "finding as its message followed by the place it names (element, series, date and\n"
+             "value, or the scenario). Exit status 1 when there is any finding.\n"),
           {{}, {"scenario"}, {}, 1, 1},
           run};
 }
@@ -21,9 +22,11 @@ int CheckCommand::run(const CommandLine& line, Console& console) {
   std::size_t total = 0;
   for (const auto& scenario : project.select(line.values("scenario"))) {
     const std::size_t found = ScenarioFindings::checkAndPrint(scenario, console.out);
-    console.err << "scenario \"" << scenario->getName()
-                << "\": " << (found == 0 ? "no findings" : std::to_string(found) + " finding(s)")
-                << '\n';
+    console.unlessQuiet(console.err)
+        << (found == 0 ? tr("scenario \"{1}\": no findings", {scenario->getName()})
+                       : tr("scenario \"{1}\": {2} finding(s)",
+                            {scenario->getName(), std::to_string(found)}))
+        << '\n';
     total += found;
   }
   return total == 0 ? exitOk : exitFindings;

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "MetricsTable.h"
 #include "OpenProject.h"
 #include "StoredRun.h"
@@ -151,19 +152,20 @@ nlohmann::ordered_json toJson(const std::vector<std::string>& heads, const std::
 }  // namespace
 
 Command CompareCommand::describe() {
-  return {"compare",
-          "kova compare P.sjson --scenario A --scenario B [--scenario C]... [--window N]\n"
-          "             [--elements all|reservoirs|demands] [--format table|csv|json]",
-          "the metrics of several scenarios side by side",
-          "Computes the metrics of each named scenario from its latest stored run, in window N\n"
-          "(default 1), and prints one line per element and metric: the element, the metric,\n"
-          "one column per scenario and, for each scenario after the first, its difference to\n"
-          "the first (\"B - A\"). Elements are those of the first scenario, matched by name;\n"
-          "drains are left out unless --elements all. A figure without meaning is \"-\" (empty\n"
-          "in csv, null in json). csv separates fields by ','; json is an array of objects with\n"
-          "the same headings as keys.\n",
-          {{"window", "elements", "format"}, {"scenario"}, {}, 1, 1},
-          run};
+  return {
+      "compare",
+      "kova compare P.sjson --scenario A --scenario B [--scenario C]... [--window N]\n"
+      "             [--elements all|reservoirs|demands] [--format table|csv|json]",
+      tr("the metrics of several scenarios side by side"),
+      tr("Computes the metrics of each named scenario from its latest stored run, in window N\n"
+         "(default 1), and prints one line per element and metric: the element, the metric,\n"
+         "one column per scenario and, for each scenario after the first, its difference to\n"
+         "the first (\"B - A\"). Elements are those of the first scenario, matched by name;\n"
+         "drains are left out unless --elements all. A figure without meaning is \"-\" (empty\n"
+         "in csv, null in json). csv separates fields by ','; json is an array of objects with\n"
+         "the same headings as keys.\n"),
+      {{"window", "elements", "format"}, {"scenario"}, {}, 1, 1},
+      run};
 }
 
 int CompareCommand::run(const CommandLine& line, Console& console) {
@@ -183,9 +185,10 @@ int CompareCommand::run(const CommandLine& line, Console& console) {
     }
     project.loadLatestResults(scenario);
     const StoredRun run = StoredRun::latest(scenario, project.path());
-    console.err << "scenario \"" << scenario->getName() << "\": stored run " << run.getTimeStamp()
-                << (run.inputsAreNewer() ? " (warning: the project's inputs were saved after it)" : "")
-                << '\n';
+    console.unlessQuiet(console.err)
+        << tr("scenario \"{1}\": stored run {2}", {scenario->getName(), run.getTimeStamp()})
+        << (run.inputsAreNewer() ? tr(" (warning: the project's inputs were saved after it)") : "")
+        << '\n';
   }
   std::vector<Line> lines;
   for (const Category category : categories) {

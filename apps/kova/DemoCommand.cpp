@@ -2,6 +2,7 @@
 
 #include "DemoProject.h"
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "Interrupt.h"
 #include "NewProjectTarget.h"
 #include "ProgressReporter.h"
@@ -16,7 +17,7 @@ std::filesystem::path projectIn(const std::string& folder) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (!std::filesystem::is_directory(folder)) {
-    throw std::runtime_error(folder + ": cannot make the folder");
+    throw std::runtime_error(folder + ": " + tr("cannot make the folder"));
   }
   return std::filesystem::path(folder) / kProjectName;
 }
@@ -26,12 +27,12 @@ std::filesystem::path projectIn(const std::string& folder) {
 Command DemoCommand::describe() {
   return {"demo",
           "kova demo DIR [--data FOLDER] [--until YEAR] [--quiet]",
-          "build the São Francisco demo project",
-          "Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
-          "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
-          "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
-          "simulation, a priority operation and yearly windows from today's storage. --until\n"
-          "YEAR ends the record in December of YEAR, for a quicker try.\n",
+          tr("build the São Francisco demo project"),
+          tr("Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
+             "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
+             "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
+             "simulation, a priority operation and yearly windows from today's storage. --until\n"
+             "YEAR ends the record in December of YEAR, for a quicker try.\n"),
           {{"data", "until"}, {}, {"quiet"}, 1, 1},
           run};
 }
@@ -43,13 +44,14 @@ int DemoCommand::run(const CommandLine& line, Console& console) {
   Interrupt::Guard interruptible;
   const auto lastYear =
       static_cast<unsigned int>(line.number("until", kLastYearOfRecord, kFirstYearOfRecord));
-  const bool built = DemoProject::build(line.value("data", KOVA_DEMO_DATA), lastYear, project,
-                                        progress.callback("saving", ProgressReporter::Form::steps));
+  const bool built =
+      DemoProject::build(line.value("data", KOVA_DEMO_DATA), lastYear, project,
+                         progress.callback(tr("saving"), ProgressReporter::Form::steps));
   progress.finish();
   if (!built) {
-    console.out << "demo cancelled; nothing was written\n";
+    console.unlessQuiet(console.out) << tr("demo cancelled; nothing was written") << '\n';
     return exitCancelled;
   }
-  console.out << "demo project written to " << project.string() << '\n';
+  console.unlessQuiet(console.out) << tr("demo project written to {1}", {project.string()}) << '\n';
   return exitOk;
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "OpenProject.h"
 #include "UsageError.h"
 #include "core/ElementSets.h"
@@ -20,7 +21,7 @@ std::filesystem::path outputFolder(const std::string& name) {
   std::error_code error;
   std::filesystem::create_directories(folder, error);
   if (!std::filesystem::is_directory(folder)) {
-    throw std::runtime_error(name + ": cannot make the output folder");
+    throw std::runtime_error(name + ": " + tr("cannot make the output folder"));
   }
   return folder;
 }
@@ -28,20 +29,21 @@ std::filesystem::path outputFolder(const std::string& name) {
 }  // namespace
 
 Command ExportCommand::describe() {
-  return {"export",
-          "kova export csv|inputs|cav P.sjson --scenario NAME --out DIR",
-          "write results, inputs or curves as files",
-          "csv: the results of the latest stored run, one CSV file per element and window, in a\n"
-          "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
-          "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n",
-          {{"scenario", "out"}, {}, {}, 2, 2},
-          run};
+  return {
+      "export",
+      "kova export csv|inputs|cav P.sjson --scenario NAME --out DIR",
+      tr("write results, inputs or curves as files"),
+      tr("csv: the results of the latest stored run, one CSV file per element and window, in a\n"
+         "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
+         "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n"),
+      {{"scenario", "out"}, {}, {}, 2, 2},
+      run};
 }
 
 int ExportCommand::run(const CommandLine& line, Console& console) {
   const std::string what = line.positional(0);
   if (what != "csv" && what != "inputs" && what != "cav") {
-    throw UsageError("nothing to export named \"" + what + "\" (csv, inputs or cav)");
+    throw UsageError(tr("nothing to export named \"{1}\" (csv, inputs or cav)", {what}));
   }
   OpenProject project(line.positional(1));
   const auto scenario = project.scenario(line.required("scenario"));
@@ -57,6 +59,7 @@ int ExportCommand::run(const CommandLine& line, Console& console) {
         ElementsFilter::filterByType(scenario->getSortedElements(), ElementSets::reservoir()),
         folder / (ReportFormat::safeFileName(scenario->getName()) + "_cav.txt"));
   }
-  console.out << files << " file(s) written under " << folder.string() << '\n';
+  console.unlessQuiet(console.out)
+      << tr("{1} file(s) written under {2}", {std::to_string(files), folder.string()}) << '\n';
   return exitOk;
 }

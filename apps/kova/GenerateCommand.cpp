@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "Interrupt.h"
 #include "NewProjectTarget.h"
 #include "ProgressReporter.h"
@@ -35,7 +36,7 @@ bool save(const std::filesystem::path& target, const GeneratedProjectOptions& op
   try {
     const bool written =
         NewProjectTarget::save({GeneratedProject::make(options)}, target,
-                               progress.callback("saving", ProgressReporter::Form::steps));
+                               progress.callback(tr("saving"), ProgressReporter::Form::steps));
     progress.finish();
     return written;
   } catch (...) {
@@ -47,27 +48,28 @@ bool save(const std::filesystem::path& target, const GeneratedProjectOptions& op
 }  // namespace
 
 Command GenerateCommand::describe() {
-  return {"generate",
-          "kova generate OUT.sjson --reservoirs N --demands M --periods T [--mode rule|priority] "
-          "[--layout tree|chain] [--own-priorities] [--seed S] [--quiet]",
-          "make a synthetic project of a chosen size",
-          "Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
-          "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
-          "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
-          "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
-          "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
-          "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
-          "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
-          "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
-          "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
-          "demand has a priority of its own, upstream first (at most 98 of them).\n"
-          "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n",
-          {{"reservoirs", "demands", "periods", "mode", "layout", "seed"},
-           {},
-           {"quiet", "own-priorities"},
-           1,
-           1},
-          run};
+  return {
+      "generate",
+      "kova generate OUT.sjson --reservoirs N --demands M --periods T [--mode rule|priority] "
+      "[--layout tree|chain] [--own-priorities] [--seed S] [--quiet]",
+      tr("make a synthetic project of a chosen size"),
+      tr("Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
+         "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
+         "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
+         "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
+         "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
+         "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
+         "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
+         "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
+         "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
+         "demand has a priority of its own, upstream first (at most 98 of them).\n"
+         "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n"),
+      {{"reservoirs", "demands", "periods", "mode", "layout", "seed"},
+       {},
+       {"quiet", "own-priorities"},
+       1,
+       1},
+      run};
 }
 
 GeneratedProjectOptions GenerateCommand::optionsOf(const CommandLine& line) {
@@ -121,16 +123,19 @@ int GenerateCommand::run(const CommandLine& line, Console& console) {
   Interrupt::Guard interruptible;
   if (!save(target, options, progress)) {
     if (!Interrupt::requested()) {
-      throw std::runtime_error(target.string() + ": could not be written");
+      throw std::runtime_error(target.string() + ": " + tr("could not be written"));
     }
-    console.out << target.string() << ": cancelled, nothing written\n";
+    console.unlessQuiet(console.out)
+        << target.string() << ": " << tr("cancelled, nothing written") << '\n';
     return exitCancelled;
   }
-  console.out << "generated " << target.string() << ": " << options.reservoirs << " reservoirs, "
-              << options.demands << " demands, " << options.periods << " months, "
-              << (options.mode == GeneratedMode::rule ? "rule" : "priority") << " mode, "
-              << (options.layout == GeneratedLayout::chain ? "chain, " : "")
-              << (options.ownPriorities ? "priorities of their own, " : "") << "seed "
-              << options.seed << '\n';
+  console.unlessQuiet(console.out)
+      << tr("generated {1}: {2} reservoirs, {3} demands, {4} months, ",
+            {target.string(), std::to_string(options.reservoirs), std::to_string(options.demands),
+             std::to_string(options.periods)})
+      << (options.mode == GeneratedMode::rule ? tr("rule mode, ") : tr("priority mode, "))
+      << (options.layout == GeneratedLayout::chain ? tr("chain, ") : "")
+      << (options.ownPriorities ? tr("priorities of their own, ") : "")
+      << tr("seed {1}", {std::to_string(options.seed)}) << '\n';
   return exitOk;
 }

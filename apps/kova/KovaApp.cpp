@@ -11,6 +11,7 @@
 #include "ExportCommand.h"
 #include "FrontCommand.h"
 #include "GenerateCommand.h"
+#include "HostText.h"
 #include "InfoCommand.h"
 #include "MetricsCommand.h"
 #include "NewCommand.h"
@@ -22,6 +23,12 @@
 #include "UsageError.h"
 
 namespace {
+
+// Every command takes --quiet, which leaves out what is neither a result nor an error.
+OptionSpec withQuiet(OptionSpec options) {
+  options.flags.insert("quiet");
+  return options;
+}
 
 bool asksForHelp(const std::vector<std::string>& args) {
   return std::any_of(args.begin(), args.end(),
@@ -53,7 +60,7 @@ int KovaApp::run(const std::vector<std::string>& args, Console& console) {
   const auto command =
       std::find_if(all.begin(), all.end(), [&](const Command& c) { return c.name == args[0]; });
   if (command == all.end()) {
-    console.err << "kova: unknown command \"" << args[0] << "\"; try 'kova --help'\n";
+    console.err << "kova: " << tr("unknown command \"{1}\"; try 'kova --help'", {args[0]}) << '\n';
     return exitUsage;
   }
   const std::vector<std::string> rest(args.begin() + 1, args.end());
@@ -68,30 +75,41 @@ int KovaApp::runCommand(const Command& command, const std::vector<std::string>& 
                         Console& console) {
   const std::string prefix = "kova " + command.name + ": ";
   try {
-    return command.run(CommandLine::parse(args, command.options), console);
+    const CommandLine line = CommandLine::parse(args, withQuiet(command.options));
+    console.quiet = line.has("quiet");
+    return command.run(line, console);
   } catch (const UsageError& error) {
-    console.err << prefix << ErrorText::of(error) << "; try 'kova " << command.name << " --help'\n";
+    console.err << prefix << ErrorText::of(error) << "; "
+                << tr("try 'kova {1} --help'", {command.name}) << '\n';
   } catch (const std::exception& error) {
     console.err << prefix << ErrorText::of(error) << '\n';
   } catch (...) {
-    console.err << prefix << "unexpected failure\n";
+    console.err << prefix << tr("unexpected failure") << '\n';
   }
   return exitUsage;
 }
 
 void KovaApp::printOverview(std::ostream& out) {
-  out << "kova: runs and inspects water-resource system projects (P.sjson with P.sjson.sqlite)\n\n"
-         "Usage: kova <command> [arguments] [options]\n       kova --version\n\nCommands:\n";
+  out << "kova: "
+      << tr("runs and inspects water-resource system projects (P.sjson with P.sjson.sqlite)")
+      << "\n\n"
+      << tr("Usage: kova <command> [arguments] [options] [--quiet]\n       kova "
+            "--version\n\nCommands:")
+      << '\n';
   for (const auto& command : commands()) {
     out << "  " << command.name
         << std::string(10 - std::min<std::size_t>(9, command.name.size()), ' ') << command.summary
         << '\n';
   }
-  out << "\n'kova <command> --help' tells more about a command.\n"
-         "Exit status: 0 done, 1 a scenario was refused or did not finish, 2 a usage or file\n"
-         "error, 3 cancelled.\n";
+  out << '\n'
+      << tr("'kova <command> --help' tells more about a command. --quiet, with any command,\n"
+            "prints nothing but results and errors.\n"
+            "Exit status: 0 done, 1 a scenario was refused or did not finish, 2 a usage or file\n"
+            "error, 3 cancelled.\n");
 }
 
 void KovaApp::printHelp(const Command& command, std::ostream& out) {
-  out << "Usage: " << command.usage << "\n\n" << command.summary << ".\n\n" << command.details;
+  out << tr("Usage: {1}", {command.usage}) << "\n\n"
+      << command.summary << ".\n\n"
+      << command.details;
 }

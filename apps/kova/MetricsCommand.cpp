@@ -1,6 +1,7 @@
 #include "MetricsCommand.h"
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "MetricsTable.h"
 #include "OpenProject.h"
 #include "StoredRun.h"
@@ -120,18 +121,19 @@ Command MetricsCommand::describe() {
       "metrics",
       "kova metrics P.sjson --scenario NAME [--window N | --windows all]\n"
       "             [--elements all|reservoirs|demands] [--format table|csv|json]",
-      "performance metrics of a stored run",
-      "Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
-      "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
-      "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
-      "out unless --elements all. A figure that has no meaning (a division by nothing, a target\n"
-      "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
-      "Every output first names the scenario, the windows with their first and last dates and\n"
-      "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
-      "The table has one line per metric and one column per element; csv has one line per\n"
-      "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
-      "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
-      "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n",
+      tr("performance metrics of a stored run"),
+      tr("Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
+         "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
+         "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
+         "out unless --elements all. A figure that has no meaning (a division by nothing, a "
+         "target\n"
+         "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
+         "Every output first names the scenario, the windows with their first and last dates and\n"
+         "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
+         "The table has one line per metric and one column per element; csv has one line per\n"
+         "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
+         "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
+         "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n"),
       {{"scenario", "window", "windows", "elements", "format"}, {}, {}, 1, 1},
       run};
 }
@@ -146,8 +148,12 @@ int MetricsCommand::run(const CommandLine& line, Console& console) {
   const Heading heading =
       headingOf(*scenario, windows, StoredRun::latest(scenario, project.path()));
   if (heading.stale) {
-    console.err << "kova metrics: warning: the project's inputs were saved after the stored run of "
-                << heading.run << "; run the scenario again for results that answer to them\n";
+    console.unlessQuiet(console.err)
+        << "kova metrics: "
+        << tr("warning: the project's inputs were saved after the stored run of {1}; run the "
+              "scenario again for results that answer to them",
+              {heading.run})
+        << '\n';
   }
   nlohmann::ordered_json json = headingJson(heading);
   if (format != MetricsTable::Format::json) printHeading(heading, format, console.out);

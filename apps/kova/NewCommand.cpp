@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "NewProjectTarget.h"
 #include "managers/ProjectFunctions.h"
 #include "scenario/PriorityScenario.h"
@@ -10,9 +11,9 @@
 Command NewCommand::describe() {
   return {"new",
           "kova new P.sjson",
-          "create a blank priority project",
-          "Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
-          "elements over the months of the current year. P must not exist yet.\n",
+          tr("create a blank priority project"),
+          tr("Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
+             "elements over the months of the current year. P must not exist yet.\n"),
           {{}, {}, {}, 1, 1},
           run};
 }
@@ -23,8 +24,8 @@ int NewCommand::run(const CommandLine& line, Console& console) {
   ProjectFunctions::closeProject();
   const std::shared_ptr<Scenario> blank = ProjectFunctions::createBlankPriorityScenery();
   if (!NewProjectTarget::save({blank}, path, nullptr)) {
-    throw std::runtime_error(path.string() + ": could not be written");
+    throw std::runtime_error(path.string() + ": " + tr("could not be written"));
   }
-  console.out << "new project written to " << path.string() << '\n';
+  console.unlessQuiet(console.out) << tr("new project written to {1}", {path.string()}) << '\n';
   return exitOk;
 }

@@ -1,17 +1,19 @@
 #include "ReportCommand.h"
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "OpenProject.h"
 #include "reports/GeneralSceneryReport.h"
 
 Command ReportCommand::describe() {
-  return {"report",
-          "kova report P.sjson --scenario NAME",
-          "the general report of a scenario",
-          "Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
-          "the volume each kind of demand requires over the scenario's period.\n",
-          {{"scenario"}, {}, {}, 1, 1},
-          run};
+  return {
+      "report",
+      "kova report P.sjson --scenario NAME",
+      tr("the general report of a scenario"),
+      tr("Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
+         "the volume each kind of demand requires over the scenario's period.\n"),
+      {{"scenario"}, {}, {}, 1, 1},
+      run};
 }
 
 int ReportCommand::run(const CommandLine& line, Console& console) {

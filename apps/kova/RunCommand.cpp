@@ -1,6 +1,7 @@
 #include "RunCommand.h"
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "Interrupt.h"
 #include "OpenProject.h"
 #include "OptimisationRun.h"
@@ -20,7 +21,7 @@ Command RunCommand::describe() {
           "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet] "
           "[--solver lpsolve|clp]\n"
           "         [--seed N] [--threads K]",
-          "run scenarios and store their results",
+          tr("run scenarios and store their results"),
           "Runs the named scenarios (all when none is named) one after the other, printing each\n"
           "one's status. Results are stored in the project database unless --no-save; --csv DIR\n"
           "also writes them as CSV files under DIR. Progress goes to standard error (none with\n"
@@ -46,10 +47,9 @@ int RunCommand::run(const CommandLine& line, Console& console) {
     throw UsageError("--solver: unknown solver \"" + solver + "\", expected " +
                      LinearProgramSolverFactory::keysText());
   }
-  OpenProject project(line.positional(0),
-                      progress.callback("opening", ProgressReporter::Form::steps),
-                      line.has("no-save") ? OpenProject::Access::readOnly
-                                          : OpenProject::Access::readWrite);
+  OpenProject project(
+      line.positional(0), progress.callback(tr("opening"), ProgressReporter::Form::steps),
+      line.has("no-save") ? OpenProject::Access::readOnly : OpenProject::Access::readWrite);
   progress.finish();
   if (line.has("solver")) ConfigurationHeader::setLinearProgramSolver(solver);
   int status = exitOk;
@@ -66,14 +66,16 @@ int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Sc
   OptimisationRun::prepare(*scenario, line, project);
   std::function<bool(long, long)> save;
   if (!line.has("no-save"))
-    save = progress.callback("saving " + scenario->getName(), ProgressReporter::Form::percentage);
+    save = progress.callback(tr("saving") + " " + scenario->getName(),
+                             ProgressReporter::Form::percentage);
   try {
     ScenarioManager::getInstance().executeScenery(
         project.indexOf(scenario),
         progress.callback(scenario->getName(), ProgressReporter::Form::percentage), save);
   } catch (const KOVACoreProgressBar::ProgressCancelException&) {
     progress.finish();
-    console.out << scenario->getName() << ": results not stored, saving was cancelled\n";
+    console.out << scenario->getName() << ": " << tr("results not stored, saving was cancelled")
+                << '\n';
     return exitCancelled;
   }
   progress.finish();
@@ -91,8 +93,10 @@ int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Sc
   OptimisationRun::finish(*scenario, line, project, console);
   if (line.has("csv")) {
     const auto files = CSVWriteResults::writeScenarios({scenario}, line.value("csv", ""));
-    console.out << scenario->getName() << ": " << files.size() << " CSV file(s) written under "
-                << line.value("csv", "") << '\n';
+    console.unlessQuiet(console.out) << scenario->getName() << ": "
+                                     << tr("{1} CSV file(s) written under {2}",
+                                           {std::to_string(files.size()), line.value("csv", "")})
+                                     << '\n';
   }
   return exitOk;
 }

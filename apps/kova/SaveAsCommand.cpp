@@ -1,19 +1,21 @@
 #include "SaveAsCommand.h"
 
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "Interrupt.h"
 #include "NewProjectTarget.h"
 #include "OpenProject.h"
 #include "ProgressReporter.h"
 
 Command SaveAsCommand::describe() {
-  return {"save-as",
-          "kova save-as P.sjson Q.sjson [--quiet]",
-          "copy a project under another name",
-          "Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
-          "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n",
-          {{}, {}, {"quiet"}, 2, 2},
-          run};
+  return {
+      "save-as",
+      "kova save-as P.sjson Q.sjson [--quiet]",
+      tr("copy a project under another name"),
+      tr("Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
+         "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n"),
+      {{}, {}, {"quiet"}, 2, 2},
+      run};
 }
 
 int SaveAsCommand::run(const CommandLine& line, Console& console) {
@@ -22,14 +24,15 @@ int SaveAsCommand::run(const CommandLine& line, Console& console) {
   ProgressReporter progress(console, line.has("quiet"));
   Interrupt::Guard interruptible;
   OpenProject project(line.positional(0),
-                      progress.callback("opening", ProgressReporter::Form::steps));
+                      progress.callback(tr("opening"), ProgressReporter::Form::steps));
   if (!NewProjectTarget::saveOpenProject(
-          target, progress.callback("saving", ProgressReporter::Form::steps))) {
+          target, progress.callback(tr("saving"), ProgressReporter::Form::steps))) {
     progress.finish();
-    console.out << "save-as cancelled; " << line.positional(0) << " is as it was\n";
+    console.unlessQuiet(console.out)
+        << tr("save-as cancelled; {1} is as it was", {line.positional(0)}) << '\n';
     return exitCancelled;
   }
   progress.finish();
-  console.out << "saved as " << target.string() << '\n';
+  console.unlessQuiet(console.out) << tr("saved as {1}", {target.string()}) << '\n';
   return exitOk;
 }

@@ -314,3 +314,27 @@ TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
   EXPECT_EQ(files, 0u);
   umount(disk.c_str());
 }
+
+TEST(KovaBoundary, CtrlCDuringGenerateExitsThreeAndLeavesNothing) {
+  TemporaryFolder folder("kova_boundary_");
+  const Outcome interrupted = kova({"generate", folder.file("grande.sjson"), "--reservoirs", "50",
+                                    "--demands", "100", "--periods", "1200", "--quiet"},
+                                   false, SIGINT, 300);
+  if (interrupted.status == 0) GTEST_SKIP() << "the project was written before the interrupt came";
+  EXPECT_EQ(interrupted.status, 3) << interrupted.err;
+  EXPECT_TRUE(filesIn(pathOf(folder)).empty());
+}
+
+TEST(KovaBoundary, CtrlCDuringSaveAsExitsThreeAndLeavesTheSourceAlone) {
+  TemporaryFolder folder("kova_boundary_");
+  const std::string source = folder.file("origem.sjson");
+  saveDemo(source, 2019);
+  const std::string before = readFile(source + ".sqlite");
+  const Outcome interrupted =
+      kova({"save-as", source, folder.file("copia.sjson"), "--quiet"}, false, SIGINT, 300);
+  if (interrupted.status == 0) GTEST_SKIP() << "the copy was written before the interrupt came";
+  EXPECT_EQ(interrupted.status, 3) << interrupted.err;
+  EXPECT_EQ(filesIn(pathOf(folder)),
+            (std::vector<std::string>{"origem.sjson", "origem.sjson.sqlite"}));
+  EXPECT_EQ(readFile(source + ".sqlite"), before);
+}

@@ -7,7 +7,9 @@
 #include <sstream>
 
 #include "CommandLine.h"
+#include "CsvTable.h"
 #include "ExitStatus.h"
+#include "HostText.h"
 #include "KovaApp.h"
 #include "UsageError.h"
 #include "support/ExpectThrow.h"
@@ -25,6 +27,7 @@ struct Outcome {
 };
 
 Outcome kova(const std::vector<std::string>& args) {
+  HostText::use(HostText::Language::english);
   std::ostringstream out, err;
   Console console{out, err, false};
   const int status = KovaApp::run(args, console);
@@ -126,8 +129,86 @@ TEST_F(KovaProject, InfoSummarisesTheScenariosAndCountsTheirElements) {
   EXPECT_NE(info.out.find("Cenário 2: Prioridades\n  Tipo: Otimizador por prioridades\n"),
             std::string::npos);
   EXPECT_NE(info.out.find("  Período: 01/1931 a 12/1933 (Mensal)"), std::string::npos);
-  EXPECT_NE(info.out.find("Elementos de Regras:\n  Reservatório: 5\n"), std::string::npos);
+  EXPECT_NE(info.out.find("Elements of Regras:\n  Reservatório: 5\n"), std::string::npos);
   EXPECT_NE(info.out.find("  Trecho natural: 15\n"), std::string::npos);
+}
+
+// The fields of the line of info --elements that names element in scenario's table.
+std::vector<std::string> elementLine(const std::string& text, const std::string& scenario,
+                                     const std::string& element) {
+  const auto table = text.find("Elements of " + scenario + ":\n");
+  const auto named = text.find("  " + element + "  ", table);
+  if (table == std::string::npos || named == std::string::npos) return {};
+  const auto start = text.rfind('\n', named) + 1;
+  // Names and kinds hold single spaces; fields are parted by two or more.
+  std::vector<std::string> fields;
+  const std::string line = text.substr(start, text.find('\n', start) - start);
+  for (std::size_t at = line.find_first_not_of(' '); at != std::string::npos;) {
+    const auto end = line.find("  ", at);
+    fields.push_back(line.substr(at, end - at));
+    at = end == std::string::npos ? end : line.find_first_not_of(' ', end);
+  }
+  return fields;
+}
+
+TEST_F(KovaProject, InfoElementsGivesEachElementsKeyInputs) {
+  const auto info = kova({"info", project, "--elements"});
+  ASSERT_EQ(info.status, exitOk) << info.err;
+  // Capacity and minimum are the reservoir table's volume_max_hm3 and volume_min_hm3.
+  const CsvTable reservoirs(std::string(KOVA_DEMO_DATA) + "/sf_reservoirs.csv");
+  const auto row = reservoirs.rowOf("tres_marias");
+  char capacity[32], minimum[32];
+  std::snprintf(capacity, sizeof capacity, "%.2f",
+                reservoirs.number(row, reservoirs.column("volume_max_hm3")));
+  std::snprintf(minimum, sizeof minimum, "%.2f",
+                reservoirs.number(row, reservoirs.column("volume_min_hm3")));
+  const auto rule = elementLine(info.out, "Regras", "Três Marias");
+  ASSERT_EQ(rule.size(), 9u) << info.out;
+  EXPECT_EQ(rule[0], "Reservatório");
+  EXPECT_EQ(rule[3], capacity);
+  EXPECT_EQ(rule[4], minimum);
+  EXPECT_EQ(rule[6], "-");  // no demand
+  EXPECT_EQ(rule[7], "-");  // no priority in a rule scenario
+  EXPECT_NE(rule[8].find("Liberação"), std::string::npos);
+  const auto priority = elementLine(info.out, "Prioridades", "Três Marias");
+  ASSERT_EQ(priority.size(), 9u);
+  EXPECT_EQ(priority[3], capacity);
+  EXPECT_NE(priority[7], "-");
+  EXPECT_EQ(priority[8], "-");  // no rule in a priority scenario
+  // A drain asks for 99,999 m³/s on every date, so that is its mean.
+  const auto drain = elementLine(info.out, "Regras", "Foz");
+  ASSERT_EQ(drain.size(), 9u);
+  EXPECT_EQ(drain[6], "99999.000");
+  EXPECT_EQ(std::vector<std::string>(drain.begin() + 3, drain.begin() + 6),
+            (std::vector<std::string>{"-", "-", "-"}));
+}
+
+TEST_F(KovaProject, QuietLeavesOnlyResultsAndErrors) {
+  const auto check = kova({"check", project, "--quiet"});
+  EXPECT_EQ(check.status, exitOk);
+  EXPECT_EQ(check.out + check.err, "");
+  const auto inputs = kova(
+      {"export", "inputs", project, "--scenario", "Regras", "--out", folder.file("q"), "--quiet"});
+  EXPECT_EQ(inputs.status, exitOk);
+  EXPECT_EQ(inputs.out + inputs.err, "");
+  EXPECT_EQ(fs::is_directory(folder.file("q")), true);
+  const auto saved = kova({"save-as", project, folder.file("q.sjson"), "--quiet"});
+  EXPECT_EQ(saved.out + saved.err, "");
+  ASSERT_EQ(kova({"run", project, "--scenario", "Regras", "--quiet"}).status, exitOk);
+  for (const std::string command : {"metrics", "series", "compare"}) {
+    std::vector<std::string> args = {command, project, "--scenario", "Regras"};
+    if (command == "series") args.insert(args.end(), {"--element", "Queimado"});
+    if (command == "compare") args.insert(args.end(), {"--scenario", "Regras"});
+    const auto loud = kova(args);
+    args.push_back("--quiet");
+    const auto quiet = kova(args);
+    ASSERT_EQ(quiet.status, exitOk) << quiet.err;
+    EXPECT_EQ(quiet.err, "") << command;
+    EXPECT_EQ(quiet.out, loud.out) << command;  // the results are all there
+  }
+  const auto failed = kova({"report", project, "--scenario", "Nenhum", "--quiet"});
+  EXPECT_EQ(failed.status, exitUsage);
+  EXPECT_NE(failed.err, "");
 }
 
 TEST_F(KovaProject, RunStoresResultsThatMetricsReportAndNoSaveLeavesTheDatabase) {
@@ -222,7 +303,7 @@ TEST_F(KovaProject, ABadProjectOrScenarioIsNamedInOneLine) {
   EXPECT_EQ(unknown.err,
             "kova check: " + project +
                 ": no scenario named \"Seca\" (scenarios: \"Regras\", \"Prioridades\", "
-                "\"Janelas a partir do armazenamento atual\")\n");
+                "\"Janelas a partir do armazenamento atual\", \"Otimização das regras\")\n");
 
   const std::string broken = folder.file("quebrado.sjson");
   fs::copy_file(project + ".sqlite", broken + ".sqlite");

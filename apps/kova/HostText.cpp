@@ -1,0 +1,254 @@
+#include "HostText.h"
+
+#include <cstdlib>
+#include <optional>
+#include <unordered_map>
+
+namespace {
+
+// Each host text in English, with its Portuguese.
+const std::unordered_map<std::string, std::string>& portuguese() {
+  static const std::unordered_map<std::string, std::string> table = {
+      {"check scenarios before running them", "verifica cenários antes de executá-los"},
+      {"Runs the checks of the named scenarios (all when none is named) and prints every\n"
+       "finding as its message followed by the place it names (element, series, date and\n"
+       "value, or the scenario). Exit status 1 when there is any finding.\n",
+       "Executa as verificações dos cenários nomeados (todos quando nenhum é nomeado) e mostra\n"
+       "cada achado como sua mensagem seguida do lugar que ela indica (elemento, série, data e\n"
+       "valor, ou o cenário). Código de saída 1 quando há algum achado.\n"},
+      {"scenario \"{1}\": no findings", "cenário \"{1}\": nenhum achado"},
+      {"scenario \"{1}\": {2} finding(s)", "cenário \"{1}\": {2} achado(s)"},
+      {"the metrics of several scenarios side by side",
+       "as métricas de vários cenários lado a lado"},
+      {"Computes the metrics of each named scenario from its latest stored run, in window N\n"
+       "(default 1), and prints one line per element and metric: the element, the metric,\n"
+       "one column per scenario and, for each scenario after the first, its difference to\n"
+       "the first (\"B - A\"). Elements are those of the first scenario, matched by name;\n"
+       "drains are left out unless --elements all. A figure without meaning is \"-\" (empty\n"
+       "in csv, null in json). csv separates fields by ','; json is an array of objects with\n"
+       "the same headings as keys.\n",
+       "Calcula as métricas de cada cenário nomeado a partir de sua última execução gravada, na\n"
+       "janela N (padrão 1), e mostra uma linha por elemento e métrica: o elemento, a métrica,\n"
+       "uma coluna por cenário e, para cada cenário depois do primeiro, sua diferença para o\n"
+       "primeiro (\"B - A\"). Os elementos são os do primeiro cenário, casados pelo nome; os\n"
+       "sumidouros ficam de fora salvo com --elements all. Um número sem sentido é \"-\" (vazio\n"
+       "em csv, null em json). csv separa os campos por ','; json é uma lista de objetos com\n"
+       "os mesmos cabeçalhos como chaves.\n"},
+      {"scenario \"{1}\": stored run {2}", "cenário \"{1}\": execução gravada {2}"},
+      {" (warning: the project's inputs were saved after it)",
+       " (aviso: os dados de entrada do projeto foram gravados depois dela)"},
+      {"cannot make the folder", "não foi possível criar a pasta"},
+      {"build the São Francisco demo project", "monta o projeto de demonstração do São Francisco"},
+      {"Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
+       "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
+       "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
+       "simulation, a priority operation and yearly windows from today's storage. --until\n"
+       "YEAR ends the record in December of YEAR, for a quicker try.\n",
+       "Monta DIR/sao_francisco.sjson (com seu banco de dados) a partir dos dados públicos em\n"
+       "FOLDER (padrão: a pasta examples/sao_francisco do código-fonte): a cascata de Retiro\n"
+       "Baixo a Moxotó sobre as vazões naturais mensais de 1931-2019, com uma simulação por\n"
+       "regras, uma operação por prioridades e janelas anuais a partir do armazenamento atual.\n"
+       "--until YEAR termina o registro em dezembro de YEAR, para um teste mais rápido.\n"},
+      {"saving", "gravando"},
+      {"demo cancelled; nothing was written", "demonstração cancelada; nada foi escrito"},
+      {"demo project written to {1}", "projeto de demonstração escrito em {1}"},
+      {"cannot make the output folder", "não foi possível criar a pasta de saída"},
+      {"write results, inputs or curves as files",
+       "escreve resultados, entradas ou curvas em arquivos"},
+      {"csv: the results of the latest stored run, one CSV file per element and window, in a\n"
+       "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
+       "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n",
+       "csv: os resultados da última execução gravada, um arquivo CSV por elemento e janela,\n"
+       "numa pasta com o nome do cenário. inputs: as séries de entrada, um arquivo CSV por\n"
+       "elemento. cav: as tabelas cota-área-volume dos reservatórios, em <cenário>_cav.txt.\n"},
+      {"nothing to export named \"{1}\" (csv, inputs or cav)",
+       "nada a exportar com o nome \"{1}\" (csv, inputs ou cav)"},
+      {"{1} file(s) written under {2}", "{1} arquivo(s) escrito(s) em {2}"},
+      {"make a synthetic project of a chosen size",
+       "cria um projeto sintético do tamanho escolhido"},
+      {"Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
+       "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
+       "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
+       "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
+       "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
+       "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
+       "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
+       "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
+       "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
+       "demand has a priority of its own, upstream first (at most 98 of them).\n"
+       "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n",
+       "Escreve OUT.sjson e OUT.sjson.sqlite: um cenário de T meses a partir de janeiro de 1901\n"
+       "com N reservatórios (1 a 1000) numa árvore de afluentes, M demandas (0 a 5000) de todos\n"
+       "os tipos, junções, rios e canais, e um sumidouro na foz. As vazões têm estações e secas\n"
+       "de vários anos. --mode rule (o padrão) dá a cada reservatório uma regra de liberação e\n"
+       "a cada nó uma matriz de alocação; --mode priority dá prioridades e volumes meta. T vai\n"
+       "de 1 a 12000. A mesma --seed (padrão 1) dá os mesmos arquivos.\n"
+       "--layout chain (modo prioridade, o padrão nele) dá em vez disso o rio de referência:\n"
+       "N reservatórios em fila até o sumidouro, a demanda j tomando do reservatório j mod N,\n"
+       "demandas com prioridades 1 a 3 e reservatórios com 4; com --own-priorities cada\n"
+       "reservatório e demanda tem prioridade própria, de montante para jusante (no máximo 98).\n"
+       "OUT ainda não pode existir; Ctrl-C durante a gravação não deixa arquivo algum.\n"},
+      {"could not be written", "não pôde ser escrito"},
+      {"cancelled, nothing written", "cancelado, nada foi escrito"},
+      {"generated {1}: {2} reservoirs, {3} demands, {4} months, ",
+       "gerado {1}: {2} reservatórios, {3} demandas, {4} meses, "},
+      {"rule mode, ", "modo regras, "},
+      {"priority mode, ", "modo prioridades, "},
+      {"chain, ", "cadeia, "},
+      {"priorities of their own, ", "prioridades próprias, "},
+      {"seed {1}", "semente {1}"},
+      {"kind", "tipo"},
+      {"name", "nome"},
+      {"id", "id"},
+      {"capacity hm³", "capacidade hm³"},
+      {"minimum hm³", "mínimo hm³"},
+      {"initial hm³", "inicial hm³"},
+      {"mean demand m³/s", "demanda média m³/s"},
+      {"priority", "prioridade"},
+      {"rule", "regra"},
+      {"summarise a project and its scenarios", "resume um projeto e seus cenários"},
+      {"Prints each scenario's kind, execution method and period, then its elements counted\n"
+       "by kind; with --elements, every element instead: its kind, name and id, the\n"
+       "capacity, minimum and initial volumes of a reservoir (hm³), the mean of a demand\n"
+       "(m³/s), the priority in a priority scenario and the release rule in a rule\n"
+       "scenario (\"-\" where the element has none).\n",
+       "Mostra o tipo, o método de execução e o período de cada cenário, depois seus elementos\n"
+       "contados por tipo; com --elements, cada elemento em vez disso: seu tipo, nome e id, os\n"
+       "volumes de capacidade, mínimo e inicial de um reservatório (hm³), a média de uma\n"
+       "demanda (m³/s), a prioridade num cenário de prioridades e a regra de liberação num\n"
+       "cenário de regras (\"-\" onde o elemento não tem).\n"},
+      {"Elements of {1}:", "Elementos de {1}:"},
+      {"unknown command \"{1}\"; try 'kova --help'",
+       "comando desconhecido \"{1}\"; tente 'kova --help'"},
+      {"try 'kova {1} --help'", "tente 'kova {1} --help'"},
+      {"unexpected failure", "falha inesperada"},
+      {"runs and inspects water-resource system projects (P.sjson with P.sjson.sqlite)",
+       "executa e examina projetos de sistemas de recursos hídricos (P.sjson com P.sjson.sqlite)"},
+      {"Usage: kova <command> [arguments] [options] [--quiet]\n"
+       "       kova --version\n"
+       "\n"
+       "Commands:",
+       "Uso: kova <comando> [argumentos] [opções] [--quiet]\n"
+       "     kova --version\n"
+       "\n"
+       "Comandos:"},
+      {"'kova <command> --help' tells more about a command. --quiet, with any command,\n"
+       "prints nothing but results and errors.\n"
+       "Exit status: 0 done, 1 a scenario was refused or did not finish, 2 a usage or file\n"
+       "error, 3 cancelled.\n",
+       "'kova <comando> --help' conta mais sobre um comando. --quiet, com qualquer comando, não\n"
+       "mostra nada além de resultados e erros.\n"
+       "Código de saída: 0 feito, 1 um cenário foi recusado ou não terminou, 2 um erro de uso\n"
+       "ou de arquivo, 3 cancelado.\n"},
+      {"Usage: {1}", "Uso: {1}"},
+      {"performance metrics of a stored run", "métricas de desempenho de uma execução gravada"},
+      {"Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
+       "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
+       "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
+       "out unless --elements all. A figure that has no meaning (a division by nothing, a target\n"
+       "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
+       "Every output first names the scenario, the windows with their first and last dates and\n"
+       "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
+       "The table has one line per metric and one column per element; csv has one line per\n"
+       "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
+       "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
+       "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n",
+       "Calcula as métricas dos reservatórios e demandas a partir da última execução gravada do\n"
+       "cenário, na janela N (contada a partir de 1, padrão 1); com --windows all, cada métrica\n"
+       "sobre todas as janelas: seu mínimo, percentis 10, 50 e 90 e máximo. Os sumidouros\n"
+       "ficam de fora salvo com --elements all. Um número sem sentido (uma divisão por nada, uma\n"
+       "métrica de meta de um reservatório sem meta) é \"-\" (vazio em csv, null em json).\n"
+       "Toda saída começa nomeando o cenário, as janelas com suas primeira e última datas e o\n"
+       "carimbo de tempo da execução gravada, e avisa quando as entradas do projeto foram\n"
+       "gravadas depois dela. A tabela tem uma linha por métrica e uma coluna por elemento;\n"
+       "csv tem uma linha por elemento (a tabela dos reservatórios, uma linha em branco, depois\n"
+       "a das demandas), após linhas '# '; json tem {\"scenario\", \"windows\", \"first\", "
+       "\"last\",\n"
+       "\"storedRun\", \"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n"},
+      {"warning: the project's inputs were saved after the stored run of {1}; run the scenario "
+       "again for results that answer to them",
+       "aviso: as entradas do projeto foram gravadas depois da execução gravada de {1}; execute o "
+       "cenário de novo para ter resultados que correspondam a elas"},
+      {"create a blank priority project", "cria um projeto de prioridades em branco"},
+      {"Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
+       "elements over the months of the current year. P must not exist yet.\n",
+       "Escreve P.sjson e seu banco de dados P.sjson.sqlite com um cenário de prioridades sem\n"
+       "elementos sobre os meses do ano corrente. P ainda não pode existir.\n"},
+      {"new project written to {1}", "novo projeto escrito em {1}"},
+      {"the general report of a scenario", "o relatório geral de um cenário"},
+      {"Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
+       "the volume each kind of demand requires over the scenario's period.\n",
+       "Mostra a contagem de elementos por tipo, o volume útil inicial dos reservatórios e o\n"
+       "volume que cada tipo de demanda requer no período do cenário.\n"},
+      {"run scenarios and store their results", "executa cenários e grava seus resultados"},
+      {"opening", "abrindo"},
+      {"results not stored, saving was cancelled",
+       "resultados não gravados, a gravação foi cancelada"},
+      {"{1} CSV file(s) written under {2}", "{1} arquivo(s) CSV escrito(s) em {2}"},
+      {"copy a project under another name", "copia um projeto com outro nome"},
+      {"Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
+       "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n",
+       "Abre P e o grava como Q: o arquivo de projeto Q.sjson e seu banco Q.sjson.sqlite.\n"
+       "Q ainda não pode existir. Ctrl-C cancela a gravação e não deixa Q algum (código 3).\n"},
+      {"save-as cancelled; {1} is as it was", "save-as cancelado; {1} está como estava"},
+      {"saved as {1}", "gravado como {1}"},
+      {"one element's input and result series of a stored run",
+       "as séries de entrada e de resultado de um elemento numa execução gravada"},
+      {"Prints the input series of the element and its result series from the latest stored\n"
+       "run of the scenario, over window N (counted from 1, default 1): one line per date and\n"
+       "series, with the columns date (YYYY-MM-DD), kind, direction (input or result), value\n"
+       "and unit. --kind keeps only the series of that name (\"Volume final\") or number (10);\n"
+       "it may be repeated. A missing value is \"-\" (empty in csv, null in json). csv\n"
+       "separates fields by ','; json is an array of {\"date\", \"kind\", \"direction\",\n"
+       "\"value\", \"unit\"}.\n",
+       "Mostra as séries de entrada do elemento e suas séries de resultado da última execução\n"
+       "gravada do cenário, na janela N (contada a partir de 1, padrão 1): uma linha por data e\n"
+       "série, com as colunas date (AAAA-MM-DD), kind, direction (input ou result), value e\n"
+       "unit. --kind mantém só as séries daquele nome (\"Volume final\") ou número (10); pode\n"
+       "ser repetida. Um valor ausente é \"-\" (vazio em csv, null em json). csv separa os\n"
+       "campos por ','; json é uma lista de {\"date\", \"kind\", \"direction\", \"value\", "
+       "\"unit\"}.\n"},
+      {"warning: the project's inputs were saved after the stored run of {1}",
+       "aviso: as entradas do projeto foram gravadas depois da execução gravada de {1}"},
+  };
+  return table;
+}
+
+std::optional<HostText::Language>& chosen() {
+  static std::optional<HostText::Language> language;
+  return language;
+}
+
+}  // namespace
+
+HostText::Language HostText::fromEnvironment() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(name);
+    if (value == nullptr || *value == '\0') continue;
+    return std::string(value).compare(0, 2, "pt") == 0 ? Language::portuguese : Language::english;
+  }
+  return Language::english;
+}
+
+void HostText::use(Language language) { chosen() = language; }
+
+std::string HostText::of(const std::string& english) {
+  if (!chosen()) chosen() = fromEnvironment();
+  if (*chosen() == Language::english) return english;
+  const auto found = portuguese().find(english);
+  return found == portuguese().end() ? english : found->second;
+}
+
+bool HostText::translated(const std::string& english) { return portuguese().count(english) != 0; }
+
+std::string HostText::fill(const std::string& english, const std::vector<std::string>& values) {
+  std::string text = of(english);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const std::string mark = "{" + std::to_string(i + 1) + "}";
+    for (auto at = text.find(mark); at != std::string::npos;
+         at = text.find(mark, at + values[i].size())) {
+      text.replace(at, mark.size(), values[i]);
+    }
+  }
+  return text;
+}

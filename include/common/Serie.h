@@ -1,9 +1,10 @@
 #pragma once
 
-#include <utility>
-#include <vector>
+#include <atomic>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "common/Date.h"
 #include "common/Interval.h"
@@ -18,12 +19,20 @@ class Serie {
   static constexpr double kEmptyValue = -999.0;
 
   // The stored values in ascending order of Julian day. Runs write each series date after date,
-  // so a value usually goes at the end: a sorted vector takes it without an allocation per value
-  // and reads back by binary search.
+  // so a value usually goes at the end: a sorted vector takes it without an allocation per value.
+  // Runs also read date after date, so a read first tries the entry of the previous read and the
+  // one after it before it searches; the remembered position is atomic because concurrent readers
+  // of one series may share it.
   class Values {
    public:
     using Entry = std::pair<unsigned int, double>;
     using const_iterator = std::vector<Entry>::const_iterator;
+
+    Values() = default;
+    Values(const Values& other) : entries(other.entries) {}
+    Values(Values&& other) noexcept : entries(std::move(other.entries)) {}
+    Values& operator=(const Values& other);
+    Values& operator=(Values&& other) noexcept;
 
     const_iterator begin() const { return entries.begin(); }
     const_iterator end() const { return entries.end(); }
@@ -34,11 +43,17 @@ class Serie {
     // Inserts or overwrites the value of julian.
     void set(unsigned int julian, double value);
     void clear() { entries.clear(); }
+    // Makes room for count entries, so that appending them moves nothing.
+    void reserve(std::size_t count) { entries.reserve(count); }
     bool operator==(const Values& other) const { return entries == other.entries; }
     bool operator!=(const Values& other) const { return entries != other.entries; }
 
    private:
+    // The position of julian, or entries.size(); remembers it for the next search.
+    std::size_t positionOf(unsigned int julian) const;
+
     std::vector<Entry> entries;
+    mutable std::atomic<std::size_t> lastFound{0};
   };
 
   Serie(const Interval& interval, Enum<SerieType> type, const Enum<Unit>& unit);
@@ -60,6 +75,8 @@ class Serie {
   // True without values, or when every value is -999.0 within 1e-6.
   bool isEmpty() const;
   std::size_t size() const { return mapOfJulianToValues.size(); }
+  // Makes room for count values, so that writing them date after date moves none of them.
+  void reserve(std::size_t count) { mapOfJulianToValues.reserve(count); }
 
   const Values& getMapOfJulianToValues() const {
     return mapOfJulianToValues;

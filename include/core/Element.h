@@ -34,7 +34,7 @@ class Element {
   const SeriesContainerPtr& getInputSeries() const { return inputSeries; }
   // The input series of a kind; null when the element has no input container. Throws
   // std::invalid_argument "Invalid serie type!" when the container lacks the kind.
-  std::shared_ptr<Serie> getInputSerie(SerieType type) const;
+  const std::shared_ptr<Serie>& getInputSerie(SerieType type) const;
   // The result series of a kind in a window. Throws std::invalid_argument "Invalid index value!"
   // for a window without results and "Invalid serie type!" for a kind the container lacks.
   const std::shared_ptr<Serie>& getOutputSerie(SerieType type, unsigned int windowIndex) const;

@@ -27,6 +27,9 @@ class HydrologicalBalance {
   // The same curve, kept by the reservoir between lookups while its working table is unchanged.
   // Lookups over it give what lookups over makeCAV's curve give.
   static const Cav& curve(const std::shared_ptr<Reservoir>& reservoir, const std::vector<int>& columns);
+  // curve() from volume to area, and from volume to level.
+  static const Cav& areaCurve(const std::shared_ptr<Reservoir>& reservoir);
+  static const Cav& levelCurve(const std::shared_ptr<Reservoir>& reservoir);
   // The area at volume over a volume-to-area curve, km²; 0 for a volume within 0.0001 of 0.
   static double area(const Cav& cav, double volume);
   // The level at volume over a volume-to-level curve, m; 0 for a volume within 0.0001 of 0.

@@ -24,10 +24,36 @@ void Serie::setValue(const Date& date, double value) { setValue(Date::julian(dat
 
 void Serie::setValue(unsigned int julian, double value) { mapOfJulianToValues.set(julian, value); }
 
-Serie::Values::const_iterator Serie::Values::find(unsigned int julian) const {
+Serie::Values& Serie::Values::operator=(const Values& other) {
+  entries = other.entries;
+  lastFound.store(0, std::memory_order_relaxed);
+  return *this;
+}
+
+Serie::Values& Serie::Values::operator=(Values&& other) noexcept {
+  entries = std::move(other.entries);
+  lastFound.store(0, std::memory_order_relaxed);
+  return *this;
+}
+
+std::size_t Serie::Values::positionOf(unsigned int julian) const {
+  const std::size_t size = entries.size();
+  std::size_t at = lastFound.load(std::memory_order_relaxed);
+  if (at < size && entries[at].first == julian) return at;
+  if (++at < size && entries[at].first == julian) {
+    lastFound.store(at, std::memory_order_relaxed);
+    return at;
+  }
   auto it = std::lower_bound(entries.begin(), entries.end(), julian,
                              [](const Entry& entry, unsigned int day) { return entry.first < day; });
-  return it != entries.end() && it->first == julian ? it : entries.end();
+  if (it == entries.end() || it->first != julian) return size;
+  at = static_cast<std::size_t>(it - entries.begin());
+  lastFound.store(at, std::memory_order_relaxed);
+  return at;
+}
+
+Serie::Values::const_iterator Serie::Values::find(unsigned int julian) const {
+  return entries.begin() + static_cast<std::ptrdiff_t>(positionOf(julian));
 }
 
 void Serie::Values::set(unsigned int julian, double value) {
@@ -35,13 +61,18 @@ void Serie::Values::set(unsigned int julian, double value) {
     entries.emplace_back(julian, value);
     return;
   }
+  if (entries.back().first == julian) {
+    entries.back().second = value;
+    return;
+  }
+  const std::size_t at = positionOf(julian);
+  if (at < entries.size()) {
+    entries[at].second = value;
+    return;
+  }
   auto it = std::lower_bound(entries.begin(), entries.end(), julian,
                              [](const Entry& entry, unsigned int day) { return entry.first < day; });
-  if (it != entries.end() && it->first == julian) {
-    it->second = value;
-  } else {
-    entries.insert(it, {julian, value});
-  }
+  entries.insert(it, {julian, value});
 }
 
 void Serie::fill(double value) { fill(value, interval); }

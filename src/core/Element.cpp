@@ -19,8 +19,9 @@ void Element::setEnabled(bool enabled) {
   if (!enabled) outputSeries.clear();
 }
 
-std::shared_ptr<Serie> Element::getInputSerie(SerieType type) const {
-  if (!inputSeries) return nullptr;
+const std::shared_ptr<Serie>& Element::getInputSerie(SerieType type) const {
+  static const std::shared_ptr<Serie> none;
+  if (!inputSeries) return none;
   return inputSeries->getSerie(type);
 }
 

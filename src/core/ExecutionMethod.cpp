@@ -64,6 +64,10 @@ void ExecutionMethod::createContinuousResults(const Elements& elements, const In
     element->setOutputSeries(
         ResultFactory::make({ExecutionType::continuous, element->getType(), scenarioType}, 1));
     element->setIntervalSeries(interval);
+    // A run writes every result on every period: room for them all is made once.
+    for (const auto& serie : element->getOutputSeries().front()->makeVectorOfSeries()) {
+      serie->reserve(interval.period());
+    }
   }
 }
 

@@ -75,6 +75,16 @@ const Cav& HydrologicalBalance::curve(const std::shared_ptr<Reservoir>& reservoi
   return *kept;
 }
 
+const Cav& HydrologicalBalance::areaCurve(const std::shared_ptr<Reservoir>& reservoir) {
+  static const std::vector<int> columns = {ReservoirInfo::volume, ReservoirInfo::area};
+  return curve(reservoir, columns);
+}
+
+const Cav& HydrologicalBalance::levelCurve(const std::shared_ptr<Reservoir>& reservoir) {
+  static const std::vector<int> columns = {ReservoirInfo::volume, ReservoirInfo::level};
+  return curve(reservoir, columns);
+}
+
 double HydrologicalBalance::atVolume(const Cav& cav, double volume) {
   if (NumericalUtils::compareDoubles(volume, 0.0, 0.0001)) return 0.0;
   return CavManager::calculateInterpolation(cav, volume);
@@ -87,7 +97,7 @@ double HydrologicalBalance::level(const Cav& cav, double volume) { return atVolu
 double HydrologicalBalance::balance(const std::shared_ptr<Reservoir>& reservoir, const Date& date,
                                     double volume, bool zeroContribution, double upstreamVolume,
                                     double downstreamVolume) const {
-  const double surface = area(curve(reservoir, {ReservoirInfo::volume, ReservoirInfo::area}), volume);
+  const double surface = area(areaCurve(reservoir), volume);
   double precipitation = 0.0;
   double naturalFlow = 0.0;
   if (!zeroContribution) {

@@ -17,31 +17,30 @@ void ReservoirResultsWriter::write(const Date& date, unsigned int windowIndex,
                                    const Interval& interval, bool zeroContribution) {
   const auto reservoir = std::static_pointer_cast<Reservoir>(element);
   const ReservoirInfo& info = reservoir->getReservoirInfo();
-  const auto hb = HydrologicalBalanceFactory::make(interval.getPeriodicity().getType());
+  const HydrologicalBalance& hb = balanceOf(interval);
 
   const double initial =
       ReservoirOperationUtils::currentReservoirVolume(reservoir, interval, date, windowIndex);
-  const double upstream = hb->calcTotalUpstreamVolume(reservoir, date, windowIndex);
-  const double downstream = hb->calcTotalDownStreamVolume(reservoir, date, windowIndex);
-  double final = hb->balance(reservoir, date, initial, zeroContribution, upstream, downstream);
+  const double upstream = hb.calcTotalUpstreamVolume(reservoir, date, windowIndex);
+  const double downstream = hb.calcTotalDownStreamVolume(reservoir, date, windowIndex);
+  double final = hb.balance(reservoir, date, initial, zeroContribution, upstream, downstream);
   if (final < 0.0) final = 0.0;
   if (NumericalUtils::subtractDoubles(info.maxVol, final, 0.0001) < 0.0) final = info.maxVol;
 
   put(reservoir, SerieType::initialVolume, windowIndex, date, initial);
   put(reservoir, SerieType::finalVolume, windowIndex, date, final);
-  put(reservoir, SerieType::upstreamControlledFlow, windowIndex, date, hb->m3s(date, upstream));
+  put(reservoir, SerieType::upstreamControlledFlow, windowIndex, date, hb.m3s(date, upstream));
   put(reservoir, SerieType::upstreamControlledVolume, windowIndex, date, upstream);
 
   const double naturalFlow =
       zeroContribution ? 0.0
                        : reservoir->getInputSerie(SerieType::naturalIncrementalFlow)->getValue(date);
-  const double uncontrolledVolume = zeroContribution ? 0.0 : hb->hm3(date, naturalFlow);
+  const double uncontrolledVolume = zeroContribution ? 0.0 : hb.hm3(date, naturalFlow);
   put(reservoir, SerieType::upstreamUncontrolledVolume, windowIndex, date, uncontrolledVolume);
   put(reservoir, SerieType::upstreamUncontrolledFlow, windowIndex, date, naturalFlow);
 
-  const Cav& areaCurve =
-      HydrologicalBalance::curve(reservoir, {ReservoirInfo::volume, ReservoirInfo::area});
-  const double surface = HydrologicalBalance::area(areaCurve, initial);
+  const double surface =
+      HydrologicalBalance::area(HydrologicalBalance::areaCurve(reservoir), initial);
   const double evaporated = HydrologicalBalance::volume(
       reservoir->getInputSerie(SerieType::evaporation)->getValue(date), surface);
   const double precipitated =
@@ -53,16 +52,14 @@ void ReservoirResultsWriter::write(const Date& date, unsigned int windowIndex,
   put(reservoir, SerieType::precipitatedVolume, windowIndex, date, precipitated);
   put(reservoir, SerieType::area, windowIndex, date, surface);
   put(reservoir, SerieType::level, windowIndex, date,
-      HydrologicalBalance::level(
-          HydrologicalBalance::curve(reservoir, {ReservoirInfo::volume, ReservoirInfo::level}),
-          initial));
+      HydrologicalBalance::level(HydrologicalBalance::levelCurve(reservoir), initial));
 
   const double available =
       (initial - info.minVol) + uncontrolledVolume + upstream + precipitated - evaporated;
   const double usefulCapacity = NumericalUtils::subtractDoubles(info.maxVol, info.minVol, 1e-6);
   double excess = NumericalUtils::subtractDoubles(available, usefulCapacity, 1e-6);
   if (excess < 0.0) excess = 0.0;
-  writeReleaseAndSpill(reservoir, excess, *hb, date, windowIndex);
+  writeReleaseAndSpill(reservoir, excess, hb, date, windowIndex);
 
   const auto valueOf = [&](SerieType type) {
     return reservoir->getOutputSerie(type, windowIndex)->getValue(date);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "common/Serie.h"
 #include "vocabulary/Vocabulary.h"
 
@@ -61,4 +63,62 @@ TEST(Serie, CopiesAreIndependent) {
   serie.clear();
   EXPECT_EQ(serie.size(), 0u);
   EXPECT_EQ(serie.getInterval(), monthly(2000, 1, 1, 2000, 3, 1));
+}
+
+// Reads remember where the last one found its date; whatever order reads and writes come in,
+// every read must give what a plain map of the same writes gives.
+TEST(Serie, ReadsInAnyOrderAgreeWithAPlainMap) {
+  Serie serie = flowSerie(monthly(2000, 1, 1, 2009, 12, 1));
+  std::map<unsigned int, double> expected;
+  unsigned int state = 7;
+  const auto next = [&state](unsigned int bound) {
+    state = state * 1103515245u + 12345u;
+    return (state >> 8) % bound;
+  };
+  const unsigned int first = Date::julian(Date(2000, 1, 1));
+  for (int step = 0; step < 4000; ++step) {
+    // Mostly dates just after the last one, as a run writes them; sometimes any date, which
+    // overwrites or inserts in the middle.
+    const unsigned int julian = step % 5 == 0
+                                    ? first + next(400)
+                                    : (expected.empty() ? first : expected.rbegin()->first + 1);
+    const double value = static_cast<double>(step) + 0.25;
+    serie.setValue(julian, value);
+    expected[julian] = value;
+    const unsigned int probe = first + next(420);
+    const auto it = expected.find(probe);
+    int found = -1;
+    unsigned char hour = 0;
+    const double read = serie.getValue(Date::gregorian(probe, hour), found);
+    ASSERT_EQ(read, it == expected.end() ? -999.0 : it->second) << "step " << step;
+    ASSERT_EQ(found, it == expected.end() ? -1 : static_cast<int>(probe)) << "step " << step;
+  }
+  ASSERT_EQ(serie.size(), expected.size());
+  auto mine = serie.getMapOfJulianToValues().begin();
+  for (const auto& entry : expected) {
+    EXPECT_EQ(mine->first, entry.first);
+    EXPECT_EQ(mine->second, entry.second);
+    ++mine;
+  }
+}
+
+TEST(Serie, ReadsWalkForwardAndBackAcrossAnOverwrittenDate) {
+  Serie serie = flowSerie(monthly(2000, 1, 1, 2000, 6, 1));
+  serie.fill(1.0);
+  serie.setValue(Date(2000, 3, 1), 3.0);
+  // Forward, as a run reads, then backward, as a previous date is read.
+  const double forward[] = {1.0, 1.0, 3.0, 1.0, 1.0, 1.0};
+  for (unsigned int month = 1; month <= 6; ++month) {
+    EXPECT_EQ(serie.getValue(Date(2000, month, 1)), forward[month - 1]);
+  }
+  for (unsigned int month = 6; month >= 1; --month) {
+    EXPECT_EQ(serie.getValue(Date(2000, month, 1)), forward[month - 1]);
+  }
+  // A copy starts its reads anew on its own values.
+  const auto copy = serie.copy();
+  copy->setValue(Date(2000, 6, 1), 6.0);
+  EXPECT_EQ(copy->getValue(Date(2000, 6, 1)), 6.0);
+  EXPECT_EQ(serie.getValue(Date(2000, 6, 1)), 1.0);
+  copy->clear();
+  EXPECT_EQ(copy->getValue(Date(2000, 6, 1)), -999.0);
 }

@@ -71,6 +71,36 @@ TEST(Element, SeriesAccessFailures) {
   EXPECT_EQ(demand->getVectorOfSeries(0).size(), 15u);
 }
 
+// A container finds a series by the number of its kind: kinds between, beyond and below those
+// it holds are refused alike, and a copy finds its own series, not those of the original.
+TEST(Element, ContainersFindEachKindAndCopiesFindTheirOwn) {
+  auto reservoir = ElementFactory::make(ElementType::reservoir);
+  const Interval months(Date(2000, 1, 1), Date(2000, 3, 1), Vocabulary::of(Periodicity::monthly));
+  reservoir->getInputSerie(SerieType::evaporation)->fill(5.0, months);
+  for (const SerieType absent : {SerieType::demand, SerieType::linkLimit,
+                                 static_cast<SerieType>(-1), static_cast<SerieType>(1000)}) {
+    EXPECT_THROW_TEXT(reservoir->getInputSerie(absent), std::invalid_argument,
+                      "Invalid serie type!");
+  }
+  EXPECT_EQ(reservoir->getInputSerie(SerieType::evaporation)->getType(), SerieType::evaporation);
+  EXPECT_EQ(reservoir->getInputSerie(SerieType::targetVolume)->getType(), SerieType::targetVolume);
+
+  const auto copy = reservoir->copy();
+  copy->getInputSerie(SerieType::evaporation)->setValue(Date(2000, 2, 1), 7.0);
+  EXPECT_EQ(copy->getInputSerie(SerieType::evaporation)->getValue(Date(2000, 2, 1)), 7.0);
+  EXPECT_EQ(reservoir->getInputSerie(SerieType::evaporation)->getValue(Date(2000, 2, 1)), 5.0);
+
+  giveResults(reservoir);
+  const auto results = reservoir->getOutputSeries().front();
+  const auto resultsCopy = results->copy();
+  resultsCopy->getSerie(SerieType::finalVolume)->setValue(Date(2000, 1, 1), 40.0);
+  EXPECT_EQ(results->getSerie(SerieType::finalVolume)->size(), 0u);
+  results->copyFrom(resultsCopy);
+  EXPECT_EQ(results->getSerie(SerieType::finalVolume)->getValue(Date(2000, 1, 1)), 40.0);
+  EXPECT_NE(results->getSerie(SerieType::finalVolume),
+            resultsCopy->getSerie(SerieType::finalVolume));
+}
+
 TEST(Element, DisablingDropsResultsForGood) {
   auto basin = ElementFactory::make(ElementType::basin);
   giveResults(basin);

@@ -97,6 +97,9 @@ class ExecutionOptimization : public ExecutionMethod {
   // swarm's order on this thread.
   void evaluateSwarm(const std::vector<Solution*>& solutions);
   void record(Solution* solution, const std::vector<double>& objectives);
+  // Empty result series for a simulation: those of the previous one emptied where every enabled
+  // element has them, new ones otherwise.
+  void startResults();
   void configure(OptimizationAlgorithmType type, const std::shared_ptr<AlgorithmParameters>& values);
   Elements reservoirs() const;
 

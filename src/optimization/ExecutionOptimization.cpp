@@ -65,13 +65,31 @@ bool ExecutionOptimization::run(const Interval& runInterval,
 }
 
 void ExecutionOptimization::run() {
-  createResults(elements, interval, scenarioType);
+  startResults();
   operationSystem->setWindowIndex(0);
   Date date = interval.getBegin();
   while (date <= interval.getEnd()) {
     operationSystem->setDate(date);
     operationSystem->runModel();
     date += Calendar::incInterval(date, interval);
+  }
+}
+
+void ExecutionOptimization::startResults() {
+  const bool made = std::all_of(elements.begin(), elements.end(), [](const auto& element) {
+    return !element->isEnabled() || element->getOutputSeries().size() == 1;
+  });
+  if (!made) {
+    createResults(elements, interval, scenarioType);
+    return;
+  }
+  // The previous candidate's series are emptied for this one and keep the room of their values.
+  for (const auto& element : elements) {
+    if (!element->isEnabled()) continue;
+    for (const auto& serie : element->getOutputSeries().front()->makeVectorOfSeries()) {
+      serie->clear();
+    }
+    element->setIntervalSeries(interval);
   }
 }
 

@@ -1,8 +1,10 @@
 #include <benchmark/benchmark.h>
 
+#include "DemoRuleScenario.h"
 #include "GeneratedSystem.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "optimization/kernel/PseudoRandom.h"
+#include "rules/ConstReleaseRule.h"
 #include "rules/OptConstReleaseRule.h"
 
 namespace {
@@ -58,5 +60,34 @@ BENCHMARK(BM_OptimisationOfGeneratedSystem)
     ->Arg(2)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
+
+// The demo's rule scenario evaluated as an optimisation evaluates a candidate: the scenario is
+// run once, then its operation is walked again and again over the record with fresh results,
+// the steady release of Retiro Baixo changing between two walks.
+void BM_RuleEvaluationsOfDemo(benchmark::State& state) {
+  const auto scenario = demoRuleScenario();
+  if (!scenario || !scenario->run(nullptr)) {
+    state.SkipWithError("the demo's rule scenario does not run");
+    return;
+  }
+  const auto retiroBaixo = scenario->getElement("Retiro Baixo");
+  const auto rule = std::static_pointer_cast<ConstReleaseRule>(
+      Scenario::getSettings<ReservoirRuleSettings>(retiroBaixo, scenario->getSettingsManager())
+          ->getRule());
+  ExecutionOptimization evaluation;
+  evaluation.setElements(scenario->getElements());
+  evaluation.prepareSimulation(scenario->getCurrentOperationSystem(), scenario->getInterval(),
+                               scenario->getScenarioType());
+  double release = 100.0;
+  for (auto _ : state) {
+    rule->setRelease(release);
+    release = release < 200.0 ? release + 1.0 : 100.0;
+    evaluation.run();
+  }
+  state.counters["simulations/s"] =
+      benchmark::Counter(1.0, benchmark::Counter::kIsIterationInvariantRate);
+  countElementPeriods(state, *scenario);
+}
+BENCHMARK(BM_RuleEvaluationsOfDemo)->Unit(benchmark::kMillisecond);
 
 }  // namespace

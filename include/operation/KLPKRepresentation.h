@@ -87,6 +87,8 @@ class KLPKRepresentation {
   KLPK_OPT_DIRECTION_FLAG klpkOptDirectionFlag = KLPK_MAX;
   std::vector<KLPKRow> rows;
   std::vector<KLPKVariable> variables;
+  std::vector<KLPKRow> spareRows;            // set aside by erase() for the next rows
+  std::vector<KLPKVariable> spareVariables;  // and columns
   std::vector<double> objective;
   std::unordered_map<std::string, int> rowIndex;
   std::unordered_map<std::string, int> variableIndex;

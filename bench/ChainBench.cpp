@@ -1,7 +1,7 @@
-// Priority runs of the chain network as a user meets them: `kova run X.sjson --no-save --quiet`
-// timed as a whole process (start, loading, checks, run, exit), for the four cases of the
-// benchmark. Each case is then run once more inside this program, in a child process, to count
-// its linear programmes and the time spent inside lp_solve's solve().
+// Priority runs of the chain network as a user meets them: `kova run X.sjson --no-save --quiet
+// --solver S` timed as a whole process (start, loading, checks, run, exit), for the four cases of
+// the benchmark and each solver. Each case is then run once more inside this program, in a child
+// process, to count its linear programmes and the time spent inside the solver's simplex.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,7 +15,9 @@
 #include <vector>
 
 #include "GeneratedProject.h"
+#include "core/ConfigurationHeader.h"
 #include "operation/KLPKRepresentation.h"
+#include "operation/LinearProgramSolverFactory.h"
 
 namespace {
 
@@ -77,7 +79,7 @@ GeneratedProjectOptions optionsOf(const ChainCase& one, unsigned int periods) {
 }
 
 // The run inside a child process, so that the counters hold this case alone.
-InsideRun insideRun(const ChainCase& one, unsigned int periods) {
+InsideRun insideRun(const ChainCase& one, unsigned int periods, const std::string& solver) {
   int fds[2];
   InsideRun result;
   if (pipe(fds) != 0) return result;
@@ -85,6 +87,7 @@ InsideRun insideRun(const ChainCase& one, unsigned int periods) {
   if (pid == 0) {
     close(fds[0]);
     InsideRun measured;
+    ConfigurationHeader::setLinearProgramSolver(solver);
     const auto scenario = GeneratedProject::make(optionsOf(one, periods));
     const auto start = std::chrono::steady_clock::now();
     measured.ok = scenario->run(nullptr);
@@ -110,8 +113,10 @@ std::string fixed(double value, int decimals, int width) {
   return text.str();
 }
 
-void report(const ChainCase& one, double wholeSeconds, const InsideRun& inside) {
-  std::cout << one.name << std::string(12 - one.name.size(), ' ');
+void report(const ChainCase& one, const std::string& solver, double wholeSeconds,
+            const InsideRun& inside) {
+  std::cout << one.name << std::string(12 - one.name.size(), ' ') << solver
+            << std::string(9 - solver.size(), ' ');
   if (wholeSeconds < 0.0 || !inside.ok) {
     std::cout << "failed" << std::endl;
     return;
@@ -137,7 +142,7 @@ int main(int argc, char** argv) {
       std::filesystem::temp_directory_path() / ("kova_chain_bench_" + std::to_string(getpid()));
   std::filesystem::create_directories(folder);
   std::cout << "Chain networks (seed 1) over " << periods << " months: kova run --no-save\n"
-            << "case          whole s    run s      LPs     LPs/s  solver %" << std::endl;
+            << "case        solver     whole s    run s      LPs     LPs/s  solver %" << std::endl;
   for (const ChainCase& one : chainCases()) {
     const std::string path = (folder / ("chain" + std::to_string(one.reservoirs) +
                                         (one.ownPriorities ? "own" : "") + ".sjson"))
@@ -156,9 +161,12 @@ int main(int argc, char** argv) {
                                          "--quiet"};
     if (one.ownPriorities) generate.push_back("--own-priorities");
     const bool made = timedProcess(generate) >= 0.0;
-    const double whole =
-        made ? timedProcess({kova, "run", path, "--no-save", "--quiet"}) : -1.0;
-    report(one, whole, insideRun(one, periods));
+    for (const std::string& solver : LinearProgramSolverFactory::keys()) {
+      const double whole =
+          made ? timedProcess({kova, "run", path, "--no-save", "--quiet", "--solver", solver})
+               : -1.0;
+      report(one, solver, whole, insideRun(one, periods, solver));
+    }
   }
   std::filesystem::remove_all(folder);
   return 0;

@@ -19,6 +19,8 @@ class KOVACoreProgressBar {
   bool update();
   // As update(), but throws ProgressCancelException when the callback answers false.
   void updateWithThrow();
+  // Asks the callback whether to go on without adding a step (true without a callback).
+  bool poll() const;
 
   unsigned int getCurrentProgress() const { return current; }
   unsigned int getSize() const { return size; }

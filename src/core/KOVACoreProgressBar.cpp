@@ -6,6 +6,10 @@ KOVACoreProgressBar::KOVACoreProgressBar(unsigned int current, unsigned int size
 
 bool KOVACoreProgressBar::update() {
   ++current;
+  return poll();
+}
+
+bool KOVACoreProgressBar::poll() const {
   if (!callback) return true;
   return callback(static_cast<long>(getPercentCurrentProgress()), static_cast<long>(size));
 }

@@ -33,7 +33,8 @@ void addWriters(std::map<KeySettings, Maker>& makers, ScenarioType scenario,
 const std::map<KeySettings, Maker>& makers() {
   static const std::map<KeySettings, Maker> table = [] {
     std::map<KeySettings, Maker> result;
-    for (ScenarioType rule : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer}) {
+    for (ScenarioType rule : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer,
+                              ScenarioType::guaranteeCurve, ScenarioType::systemGuaranteeCurve}) {
       addWriters(result, rule, ResultsWriterFactory::makeReservoirRuleResultsWriter);
     }
     addWriters(result, ScenarioType::priorityOptimizer,

@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <vector>
+
+#include "checks/SceneryCheck.h"
+#include "common/NumericalUtils.h"
+#include "common/PeriodWalker.h"
+#include "core/ReservoirGuaranteeCurveSettings.h"
+#include "optimization/GuaranteeCurveScenario.h"
+#include "rules/ConstReleaseRule.h"
+#include "support/ExpectThrow.h"
+#include "support/NetworkBuilder.h"
+
+namespace {
+
+// Whether scenario ran, with the findings of its checks when it did not.
+::testing::AssertionResult runs(Scenario& scenario, const Scenario::Progress& progress = nullptr) {
+  if (scenario.run(progress)) return ::testing::AssertionSuccess();
+  auto failure = ::testing::AssertionFailure() << scenario.getName() << " did not run:";
+  if (scenario.getSceneryCheck()) {
+    for (const auto& finding : scenario.getSceneryCheck()->getAllErrors()) {
+      failure << " " << finding.message << " " << finding.elementName << ";";
+    }
+  }
+  return failure;
+}
+
+constexpr double kUnit = 0.0864;  // hm³: 1 m³/s over one day
+
+// Reservoirs in series, each on its own inflows, the last one into a drain; every reservoir is
+// marked for the curve unless told otherwise. Volumes are in units of 1 m³/s·day, no losses.
+struct Cascade {
+  Cascade(const Interval& interval, const std::vector<std::vector<double>>& inflows,
+          double capacity)
+      : scenario(std::make_shared<GuaranteeCurveScenario>(1, interval, "Curva")), net(scenario) {
+    std::shared_ptr<Node> previous;
+    for (const auto& cycle : inflows) {
+      auto reservoir = std::static_pointer_cast<Reservoir>(net.node(ElementType::reservoir));
+      ReservoirInfo& info = reservoir->getReservoirInfo();
+      // The useful storage lies above a dead storage of one unit, the first row above the bed.
+      const double full = capacity * kUnit;
+      info.cav = {{100, 0, 0}, {101, 1, kUnit}, {102, 2, kUnit + full / 2}, {103, 3, kUnit + full}};
+      info.minVol = kUnit;
+      info.maxVol = kUnit + full;
+      info.initVol = kUnit + full;
+      std::size_t index = 0;
+      PeriodWalker::forEach(interval, [&](const Date& date) {
+        reservoir->getInputSerie(SerieType::naturalIncrementalFlow)
+            ->setValue(date, cycle[index++ % cycle.size()]);
+      });
+      reservoir->getInputSerie(SerieType::evaporation)->fill(0.0);
+      reservoir->getInputSerie(SerieType::precipitation)->fill(0.0);
+      if (previous) link(previous, reservoir);
+      previous = reservoir;
+      reservoirs.push_back(reservoir);
+      settings(reservoir)->setIsGuaranteeCurve(true);
+      auto rule = std::make_shared<ConstReleaseRule>();
+      rule->setRelease(7.0);
+      settings(reservoir)->setRule(rule);
+    }
+    link(previous, net.node(ElementType::drain));
+  }
+
+  void link(const std::shared_ptr<Node>& up, const std::shared_ptr<Node>& down) {
+    auto river = net.link(up, down, 100000.0);
+    net.allocation(up, {{double(up->getId()), double(river->getId())}, {100000, 100000}});
+  }
+
+  std::shared_ptr<ReservoirGuaranteeCurveSettings> settings(const std::shared_ptr<Element>& e) {
+    return Scenario::getSettings<ReservoirGuaranteeCurveSettings>(e,
+                                                                  scenario->getSettingsManager());
+  }
+
+  ExecutionGuaranteeCurve& curve() { return scenario->getExecutionGuaranteeCurve(); }
+
+  // The share of periods (%) in which each reservoir delivers its release when they hold the
+  // releases given, computed by a plain rule simulation of the same network.
+  std::vector<double> guarantees(const std::vector<double>& releases) {
+    auto copy = std::static_pointer_cast<GuaranteeCurveScenario>(scenario->copy());
+    std::vector<std::shared_ptr<Element>> copies;
+    for (std::size_t i = 0; i < releases.size(); ++i) {
+      copies.push_back(copy->getElement(reservoirs[i]->getId()));
+      auto rule = std::make_shared<ConstReleaseRule>();
+      rule->setRelease(releases[i]);
+      Scenario::getSettings<ReservoirRuleSettings>(copies.back(), copy->getSettingsManager())
+          ->setRule(rule);
+    }
+    auto simulation = std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), 2,
+                                                     copy->getInterval(), "Simulação");
+    copy->copyNetworkInto(*simulation);
+    simulation->resolveRuleReferences();
+    EXPECT_TRUE(runs(*simulation));
+    std::vector<double> shares;
+    for (std::size_t i = 0; i < releases.size(); ++i) {
+      const auto& released = simulation->getElement(reservoirs[i]->getId())
+                                 ->getOutputSerie(SerieType::releasedFlow, 0);
+      unsigned int periods = 0, delivered = 0;
+      PeriodWalker::forEach(simulation->getInterval(), [&](const Date& date) {
+        ++periods;
+        if (std::fabs(released->getValue(date) - releases[i]) <= 1e-6) ++delivered;
+      });
+      shares.push_back(delivered * 100.0 / periods);
+    }
+    return shares;
+  }
+
+  std::shared_ptr<GuaranteeCurveScenario> scenario;
+  NetworkBuilder net;
+  std::vector<std::shared_ptr<Element>> reservoirs;
+};
+
+// 36 days of the textbook record: a yield of 3.5 needs exactly the 7.5 units of storage.
+const Interval kDays(Date(2001, 1, 1), Date(2001, 2, 5), Vocabulary::of(Periodicity::daily));
+const std::vector<double> kTextbook = {1, 3, 3, 5, 8, 6, 7, 2, 1};
+
+const Interval kTwoYears(Date(2001, 1, 1), Date(2002, 12, 1), Vocabulary::of(Periodicity::monthly));
+const std::vector<double> kSeasons = {9, 12, 10, 6, 3, 1.5, 1, 0.5, 0.5, 2, 5, 8};
+
+}  // namespace
+
+TEST(GuaranteeCurve, TheTextbookYieldIsFoundFromBelowWithinTheLastStep) {
+  Cascade cascade(kDays, {kTextbook}, 7.5);
+  EXPECT_EQ(cascade.guarantees({3.5}), std::vector<double>{100.0});
+  EXPECT_LT(cascade.guarantees({3.6})[0], 100.0);
+
+  ExecutionGuaranteeCurve::setSeed(11);
+  cascade.curve().setGuaranteeValues({100});
+  cascade.curve().setNumberOfIterations(200);
+  ASSERT_TRUE(runs(*cascade.scenario));
+  const auto& curve = cascade.curve().getGuaranteeStr();
+  ASSERT_EQ(curve.guarantees, std::vector<double>{100});
+  const double q = curve.values[0][0];
+  // It starts at 90 % of the mean inflow, 3.6, and steps down at most 2.5 % of q per missed
+  // period (one period is 2.78 points) until the first release that never fails.
+  EXPECT_LE(q, 3.5 + 1e-9);
+  EXPECT_GE(q, 3.5 - 0.025 * 100.0 / 36.0 * 3.6);
+  EXPECT_EQ(cascade.guarantees({q}), std::vector<double>{100.0});
+  EXPECT_EQ(cascade.curve().getQGuarantee(cascade.reservoirs[0]->getId(), 100.0), q);
+}
+
+TEST(GuaranteeCurve, EveryFlowReachesItsLevelAndIsAtMostTheLargestThatDoes) {
+  Cascade cascade(kTwoYears, {kSeasons}, 40.0 * 30);
+  ExecutionGuaranteeCurve::setSeed(3);
+  cascade.curve().setGuaranteeValues({50, 75, 90, 100});
+  cascade.curve().setNumberOfIterations(80);
+  ASSERT_TRUE(runs(*cascade.scenario));
+  const auto& curve = cascade.curve().getGuaranteeStr();
+  ASSERT_FALSE(curve.guarantees.empty());
+  for (std::size_t row = 0; row < curve.guarantees.size(); ++row) {
+    const double level = curve.guarantees[row];
+    const double q = curve.values[row][0];
+    SCOPED_TRACE(level);
+    EXPECT_GE(cascade.guarantees({q})[0] + 1e-9, NumericalUtils::getNearGuarantee(level, 24));
+    double largest = 0.0;
+    for (double grid = 0.0; grid <= 12.0; grid += 0.01) {
+      if (cascade.guarantees({grid})[0] + 1e-9 >= NumericalUtils::getNearGuarantee(level, 24)) {
+        largest = grid;
+      }
+    }
+    EXPECT_LE(q, largest + 0.01);
+  }
+  // Higher levels never sustain more.
+  for (std::size_t row = 1; row < curve.guarantees.size(); ++row) {
+    EXPECT_LE(curve.values[row][0], curve.values[row - 1][0] + 1e-9);
+  }
+}
+
+TEST(GuaranteeCurve, TheSameSeedGivesTheSameCurveAndTheRulesComeBack) {
+  Cascade cascade(kTwoYears, {kSeasons, {2, 2, 2, 1, 1, 1, 1, 1, 1, 1, 2, 2}}, 40.0 * 30);
+  const auto upstreamRule = cascade.settings(cascade.reservoirs[0])->getRule();
+  cascade.curve().setGuaranteeValues({60, 90});
+  cascade.curve().setNumberOfIterations(40);
+  ExecutionGuaranteeCurve::setSeed(21);
+  ASSERT_TRUE(runs(*cascade.scenario));
+  const auto first = cascade.curve().getGuaranteeStr();
+  ASSERT_FALSE(first.guarantees.empty());
+  ExecutionGuaranteeCurve::setSeed(21);
+  ASSERT_TRUE(runs(*cascade.scenario));
+  EXPECT_EQ(cascade.curve().getGuaranteeStr(), first);
+  EXPECT_EQ(cascade.settings(cascade.reservoirs[0])->getRule(), upstreamRule);
+  // Two reservoirs in series: each row holds, together, for both.
+  ASSERT_EQ(first.reservoirIds.size(), 2u);
+  for (std::size_t row = 0; row < first.guarantees.size(); ++row) {
+    const auto shares = cascade.guarantees(first.values[row]);
+    for (double share : shares) {
+      EXPECT_GE(share + 1e-9, NumericalUtils::getNearGuarantee(first.guarantees[row], 24));
+    }
+  }
+  // A run leaves the curve, not the trials' series.
+  EXPECT_TRUE(cascade.reservoirs[0]->getOutputSeries().empty());
+}
+
+TEST(GuaranteeCurve, OnlyQ90RunsOneLevelAndACancelledRunRestoresTheRules) {
+  Cascade cascade(kTwoYears, {kSeasons}, 40.0 * 30);
+  cascade.curve().setGuaranteeValues({10, 20, 30});
+  cascade.curve().setOnlyQ90(true);
+  cascade.curve().setNumberOfIterations(30);
+  std::vector<long> steps;
+  ASSERT_TRUE(runs(*cascade.scenario, [&](long percent, long size) {
+    steps.push_back(size);
+    return percent >= 0;
+  }));
+  EXPECT_EQ(cascade.curve().getGuaranteeStr().guarantees, std::vector<double>{90});
+  ASSERT_FALSE(steps.empty());
+  EXPECT_EQ(steps.back(), 1);
+
+  const auto rule = cascade.settings(cascade.reservoirs[0])->getRule();
+  long calls = 0;
+  EXPECT_FALSE(cascade.scenario->run([&](long, long) { return ++calls < 3; }));
+  EXPECT_EQ(calls, 3);  // asked after every trial, not only after each level
+  EXPECT_TRUE(cascade.curve().getGuaranteeStr().guarantees.empty());
+  EXPECT_EQ(cascade.settings(cascade.reservoirs[0])->getRule(), rule);
+}
+
+TEST(GuaranteeCurve, NoInflowFailsEveryLevelAndNamesTheReservoir) {
+  Cascade cascade(kTwoYears, {{0.0}}, 10.0);
+  cascade.reservoirs[0]->setName("Seco");
+  cascade.curve().setGuaranteeValues({50, 100});
+  ASSERT_TRUE(runs(*cascade.scenario));
+  EXPECT_TRUE(cascade.curve().getGuaranteeStr().guarantees.empty());
+  EXPECT_EQ(cascade.curve().getReservoirFailMap(),
+            (std::map<unsigned int, std::string>{{cascade.reservoirs[0]->getId(), "Seco"}}));
+}
+
+TEST(GuaranteeCurve, LevelsIterationsAndIsolationAreChecked) {
+  ExecutionGuaranteeCurve curve;
+  EXPECT_EQ(curve.getGuaranteeValues().size(), 23u);
+  EXPECT_THROW_TEXT(curve.setGuaranteeValues({50, 0}), std::invalid_argument,
+                    "ExecutionGuaranteeCurve::setGuaranteeValues(): a guarantee must be above 0 "
+                    "and at most 100");
+  EXPECT_THROW(curve.setGuaranteeValues({100.5}), std::invalid_argument);
+  EXPECT_THROW_TEXT(curve.setNumberOfIterations(0), std::invalid_argument,
+                    "ExecutionGuaranteeCurve::setNumberOfIterations(): the number of iterations "
+                    "must be positive");
+  EXPECT_THROW_TEXT(curve.setIsolated(true), std::invalid_argument,
+                    "ExecutionGuaranteeCurve::setIsolated(): the isolated trial is not available "
+                    "yet");
+  EXPECT_EQ(curve.getQGuarantee(1, 90.0), 0.0);
+}

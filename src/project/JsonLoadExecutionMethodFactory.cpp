@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "project/JsonLoadExecutionGuaranteeCurve.h"
 #include "project/JsonLoadExecutionOptimization.h"
 #include "project/JsonMakerTable.h"
 #include "vocabulary/Vocabulary.h"
@@ -15,6 +16,11 @@ std::shared_ptr<JsonLoadExecutionMethod> makeCommonOnly() {
   return std::make_shared<JsonLoadExecutionMethod>(type);
 }
 
+template <typename Reader>
+std::shared_ptr<JsonLoadExecutionMethod> makeReader() {
+  return std::make_shared<Reader>();
+}
+
 const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
@@ -23,10 +29,9 @@ const JsonMakerTable<Maker>& makers() {
           {Vocabulary::of(ExecutionType::windowed).getName(),
            makeCommonOnly<ExecutionType::windowed>},
           {Vocabulary::of(ExecutionType::optimization).getName(),
-           [] {
-             return std::shared_ptr<JsonLoadExecutionMethod>(
-                 std::make_shared<JsonLoadExecutionOptimization>());
-           }},
+           makeReader<JsonLoadExecutionOptimization>},
+          {Vocabulary::of(ExecutionType::guaranteeCurve).getName(),
+           makeReader<JsonLoadExecutionGuaranteeCurve>},
       },
       "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType");
   return table;

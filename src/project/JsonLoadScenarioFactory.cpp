@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "project/JsonLoadGuaranteeCurveScenario.h"
 #include "project/JsonLoadOptRuleScenario.h"
 #include "project/JsonLoadPriorityScenario.h"
 #include "project/JsonLoadRuleScenario.h"
@@ -21,6 +22,8 @@ const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeReader<JsonLoadRuleScenario>},
+          {Vocabulary::of(ScenarioType::guaranteeCurve).getName(),
+           makeReader<JsonLoadGuaranteeCurveScenario>},
           {Vocabulary::of(ScenarioType::ruleOptimizer).getName(),
            makeReader<JsonLoadOptRuleScenario>},
           {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 
+#include "project/JsonLoadSettingsGuaranteeCurveReservoir.h"
 #include "project/JsonLoadSettingsPriorityDemand.h"
 #include "project/JsonLoadSettingsPriorityReservoir.h"
 #include "project/JsonLoadSettingsRule.h"
@@ -26,12 +27,17 @@ Key keyOf(ScenarioType scenario, ElementType element) {
   return {Vocabulary::of(scenario).getName(), Vocabulary::of(element).getName()};
 }
 
-// Every kind run by release rules reads and writes its elements' settings alike.
+// Every kind run by release rules reads and writes its elements' settings alike, but for the
+// mark of the reservoirs of a guarantee curve.
 std::map<Key, Maker> rows() {
   using E = ElementType;
   std::map<Key, Maker> rows;
-  for (ScenarioType rules : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer}) {
-    rows.emplace(keyOf(rules, E::reservoir), makeReader<JsonLoadSettingsRuleReservoir>);
+  for (ScenarioType rules :
+       {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer, ScenarioType::guaranteeCurve}) {
+    const bool curve = rules == ScenarioType::guaranteeCurve;
+    rows.emplace(keyOf(rules, E::reservoir),
+                 curve ? makeReader<JsonLoadSettingsGuaranteeCurveReservoir>
+                       : makeReader<JsonLoadSettingsRuleReservoir>);
     rows.emplace(keyOf(rules, E::junction), makeReader<JsonLoadSettingsRule>);
     rows.emplace(keyOf(rules, E::basin), makeReader<JsonLoadSettingsRule>);
     rows.emplace(keyOf(rules, E::humanDemand), makeReader<JsonLoadSettingsRule>);

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "project/JsonMakerTable.h"
+#include "project/JsonSaveExecutionGuaranteeCurve.h"
 #include "project/JsonSaveExecutionOptimization.h"
 #include "vocabulary/Vocabulary.h"
 
@@ -16,6 +17,11 @@ std::shared_ptr<JsonSaveExecutionMethod> makeCommonOnly(
   return std::make_shared<JsonSaveExecutionMethod>(method);
 }
 
+std::shared_ptr<JsonSaveExecutionMethod> makeGuaranteeCurve(
+    const std::shared_ptr<ExecutionMethod>& method) {
+  return std::make_shared<JsonSaveExecutionGuaranteeCurve>(method);
+}
+
 std::shared_ptr<JsonSaveExecutionMethod> makeOptimization(
     const std::shared_ptr<ExecutionMethod>& method) {
   return std::make_shared<JsonSaveExecutionOptimization>(method);
@@ -27,6 +33,7 @@ const JsonMakerTable<Maker>& makers() {
           {Vocabulary::of(ExecutionType::continuous).getName(), makeCommonOnly},
           {Vocabulary::of(ExecutionType::windowed).getName(), makeCommonOnly},
           {Vocabulary::of(ExecutionType::optimization).getName(), makeOptimization},
+          {Vocabulary::of(ExecutionType::guaranteeCurve).getName(), makeGuaranteeCurve},
       },
       "JsonSaveExecutionMethodFactory::make(): invalid ExecutionType");
   return table;

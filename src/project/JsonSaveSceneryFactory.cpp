@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "project/JsonMakerTable.h"
+#include "project/JsonSaveGuaranteeCurveScenery.h"
 #include "project/JsonSaveOptRuleScenery.h"
 #include "project/JsonSavePriorityScenery.h"
 #include "project/JsonSaveRuleScenery.h"
@@ -21,6 +22,8 @@ const JsonMakerTable<Maker>& makers() {
   static const JsonMakerTable<Maker> table(
       {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeWriter<JsonSaveRuleScenery>},
+          {Vocabulary::of(ScenarioType::guaranteeCurve).getName(),
+           makeWriter<JsonSaveGuaranteeCurveScenery>},
           {Vocabulary::of(ScenarioType::ruleOptimizer).getName(),
            makeWriter<JsonSaveOptRuleScenery>},
           {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "project/JsonMakerTable.h"
+#include "project/JsonSaveSettingsGuaranteeCurveReservoir.h"
 #include "project/JsonSaveSettingsPriorityDemand.h"
 #include "project/JsonSaveSettingsPriorityReservoir.h"
 #include "project/JsonSaveSettingsRule.h"
@@ -26,12 +27,17 @@ Key keyOf(ScenarioType scenario, ElementType element) {
   return {Vocabulary::of(scenario).getName(), Vocabulary::of(element).getName()};
 }
 
-// Every kind run by release rules reads and writes its elements' settings alike.
+// Every kind run by release rules reads and writes its elements' settings alike, but for the
+// mark of the reservoirs of a guarantee curve.
 std::map<Key, Maker> rows() {
   using E = ElementType;
   std::map<Key, Maker> rows;
-  for (ScenarioType rules : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer}) {
-    rows.emplace(keyOf(rules, E::reservoir), makeWriter<JsonSaveSettingsRuleReservoir>);
+  for (ScenarioType rules :
+       {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer, ScenarioType::guaranteeCurve}) {
+    const bool curve = rules == ScenarioType::guaranteeCurve;
+    rows.emplace(keyOf(rules, E::reservoir),
+                 curve ? makeWriter<JsonSaveSettingsGuaranteeCurveReservoir>
+                       : makeWriter<JsonSaveSettingsRuleReservoir>);
     rows.emplace(keyOf(rules, E::junction), makeWriter<JsonSaveSettingsRule>);
     rows.emplace(keyOf(rules, E::basin), makeWriter<JsonSaveSettingsRule>);
     rows.emplace(keyOf(rules, E::humanDemand), makeWriter<JsonSaveSettingsRule>);

@@ -113,11 +113,11 @@ TEST(ProjectFactories, EveryLinkAddonRoundTrips) {
 
 TEST(ProjectFactories, KindsReadAndWrittenToday) {
   using Names = std::vector<std::string>;
-  const Names scenarios = {"Otimizador de regras", "Otimizador por prioridades",
-                           "Simulador por regras"};
+  const Names scenarios = {"Curva de garantia", "Otimizador de regras",
+                           "Otimizador por prioridades", "Simulador por regras"};
   EXPECT_EQ(JsonLoadScenarioFactory::keys(), scenarios);
   EXPECT_EQ(JsonSaveSceneryFactory::keys(), scenarios);
-  const Names methodNames = {"Contínuo", "Janela", "Otimização"};
+  const Names methodNames = {"Contínuo", "Curva de garantia", "Janela", "Otimização"};
   EXPECT_EQ(JsonLoadExecutionMethodFactory::keys(), methodNames);
   EXPECT_EQ(JsonSaveExecutionMethodFactory::keys(), methodNames);
   const Names addons = {"Bombeamento", "Nenhum", "Propagação"};
@@ -128,11 +128,12 @@ TEST(ProjectFactories, KindsReadAndWrittenToday) {
   // Each scenario kind read and written has a settings object for each of the ten element kinds.
   const auto settingsKeys = JsonSaveSettingsFactory::keys();
   EXPECT_EQ(settingsKeys, JsonLoadSettingsFactory::keys());
-  ASSERT_EQ(settingsKeys.size(), 30u);
+  ASSERT_EQ(settingsKeys.size(), 40u);
   std::map<std::string, std::size_t> kindsPerScenario;
   for (const auto& [scenarioType, elementType] : settingsKeys) ++kindsPerScenario[scenarioType];
-  EXPECT_EQ(kindsPerScenario, (std::map<std::string, std::size_t>{
-                                  {scenarios[0], 10}, {scenarios[1], 10}, {scenarios[2], 10}}));
+  EXPECT_EQ(kindsPerScenario,
+            (std::map<std::string, std::size_t>{
+                {scenarios[0], 10}, {scenarios[1], 10}, {scenarios[2], 10}, {scenarios[3], 10}}));
   const auto& methods = JsonLoadExecutionMethodFactory::make("Janela")->load(
       nlohmann::json::object(), emptyScenario()->getInterval());
   EXPECT_EQ(methods->getExecutionType().getType(), ExecutionType::windowed);
@@ -142,11 +143,11 @@ TEST(ProjectFactories, UnknownKeysHaveTheirMessages) {
   const auto scenario = emptyScenario();
   const auto link = std::static_pointer_cast<Link>(ElementFactory::makeNaturalLink());
   const std::vector<std::pair<std::function<void()>, std::string>> misses = {
-      {[] { JsonLoadScenarioFactory::make("Curva de garantia"); },
+      {[] { JsonLoadScenarioFactory::make("Curva de garantia do sistema"); },
        "JsonLoadScenarioFactory::make(): invalid scenarioType"},
       {[] { JsonSaveSceneryFactory::make(nullptr); },
        "JsonSaveSceneryFactory::make(): invalid scenarioType"},
-      {[] { JsonLoadExecutionMethodFactory::make("Curva de garantia"); },
+      {[] { JsonLoadExecutionMethodFactory::make("Curva de garantia do sistema"); },
        "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType"},
       {[&] { JsonLoadElementFactory::makeNode("Trecho", scenario); },
        "JsonLoadElementFactory::make(): invalid elementType"},

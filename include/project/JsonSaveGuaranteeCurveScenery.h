@@ -1,0 +1,12 @@
+#pragma once
+
+#include "project/JsonSaveScenario.h"
+
+// Writes a guarantee-curve scenario: the common keys only; the curve is the method's.
+class JsonSaveGuaranteeCurveScenery : public JsonSaveScenario {
+ public:
+  using JsonSaveScenario::JsonSaveScenario;
+
+ protected:
+  JsonSaveBuilder::Members toJsonSpecific() const override { return {}; }
+};

@@ -17,6 +17,6 @@ class CSVWriteFile {
   // written there (<reason>)" unless a file can be made in it, so that a long run learns it
   // before it computes.
   static void requireWritableFolder(const std::filesystem::path& folder);
-  // Removes the files at paths, as far as they exist.
+  // Removes the files, and the folders once empty, at paths, as far as they exist.
   static void removeAll(const std::vector<std::filesystem::path>& paths);
 };

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "core/Reservoir.h"
+#include "reports/CSVWriteFile.h"
 #include "reports/ReportFormat.h"
 
 void CSVCav::exportCavs(const std::vector<std::shared_ptr<Element>>& elements,
@@ -26,4 +27,5 @@ void CSVCav::exportCavs(const std::vector<std::shared_ptr<Element>>& elements,
       file << '\n';
     }
   }
+  CSVWriteFile::finish(file, path, "CSVCav::exportCavs(): erro ao escrever arquivo");
 }

@@ -12,6 +12,12 @@
 std::vector<std::filesystem::path> CSVWriteResults::writeScenarios(
     const std::vector<std::shared_ptr<Scenario>>& scenarios, const std::filesystem::path& folder) {
   std::vector<std::filesystem::path> written;
+  // The scenario folders this export makes: a failed export takes them back with its files.
+  std::vector<std::filesystem::path> made;
+  for (const auto& scenario : scenarios) {
+    const auto own = folder / ReportFormat::safeFileName(scenario->getName());
+    if (!std::filesystem::exists(own)) made.push_back(own);
+  }
   try {
     for (const auto& scenario : scenarios) {
       for (const auto& element : scenario->getSortedElements()) {
@@ -24,6 +30,7 @@ std::vector<std::filesystem::path> CSVWriteResults::writeScenarios(
     }
   } catch (...) {
     CSVWriteFile::removeAll(written);
+    CSVWriteFile::removeAll(made);
     throw;
   }
   return written;

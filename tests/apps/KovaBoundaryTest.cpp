@@ -312,6 +312,20 @@ TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
   std::size_t files = 0;
   for (const auto& entry : fs::recursive_directory_iterator(disk)) files += entry.is_regular_file();
   EXPECT_EQ(files, 0u);
+
+  // The curves are a few kilobytes: the disk is filled first, so that their writes fail.
+  {
+    std::ofstream filler(disk / "enchimento", std::ios::binary);
+    const std::string block(4096, 'x');
+    while (filler << block << std::flush) {
+    }
+  }
+  const Outcome curves =
+      kova({"export", "cav", source, "--scenario", "Regras", "--out", disk.string()});
+  EXPECT_EQ(curves.status, 2) << curves.out;
+  EXPECT_EQ(curves.err, "kova export: CSVCav::exportCavs(): erro ao escrever arquivo: " +
+                            (disk / "Regras_cav.txt").string() + "\n");
+  EXPECT_EQ(filesIn(disk), std::vector<std::string>{"enchimento"});
   umount(disk.c_str());
 }
 

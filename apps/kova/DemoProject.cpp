@@ -12,10 +12,12 @@
 #include "core/Demand.h"
 #include "core/PrioritySettings.h"
 #include "core/Reservoir.h"
+#include "core/ReservoirGuaranteeCurveSettings.h"
 #include "core/ReservoirRuleSettings.h"
 #include "managers/CoreServiceManager.h"
 #include "operation/ExecutionContinuous.h"
 #include "operation/ExecutionMethodFactoryByType.h"
+#include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
@@ -40,6 +42,9 @@ constexpr unsigned int kWindowMonth = 11;  // the wet season, and the hydrologic
 // The swarm of the optimisation: 16 particles over 15 iterations, 256 simulations in all.
 constexpr std::uint32_t kSwarm = 16;
 constexpr std::uint32_t kIterations = 15;
+// The levels of the guarantee curve, %, and the trials of each lake at each level.
+const std::vector<double> kCurveLevels = {50, 80, 90, 95, 100};
+constexpr std::uint32_t kCurveIterations = 15;
 
 // The data files, read once.
 struct DemoData {
@@ -433,6 +438,19 @@ void leaveReleasesToTheSwarm(const std::shared_ptr<RuleOptimizationScenario>& sc
   parameters.maxIterations = kIterations;
 }
 
+// The constant releases that Três Marias and Sobradinho, the two lakes that regulate the river,
+// sustain at a few levels of guarantee, the other lakes on their rules.
+void askForTheCurve(const std::shared_ptr<GuaranteeCurveScenario>& scenario, const Network& n) {
+  for (const auto& reservoir : {n.tresMarias, n.sobradinho}) {
+    Scenario::getSettings<ReservoirGuaranteeCurveSettings>(reservoir,
+                                                           scenario->getSettingsManager())
+        ->setIsGuaranteeCurve(true);
+  }
+  auto& curve = scenario->getExecutionGuaranteeCurve();
+  curve.setGuaranteeValues(kCurveLevels);
+  curve.setNumberOfIterations(kCurveIterations);
+}
+
 // The storage at the end of the record, where the rule simulation left it.
 std::map<std::string, double> storageAtTheEnd(const std::shared_ptr<Scenario>& rules) {
   if (!rules->run(nullptr)) {
@@ -482,7 +500,12 @@ std::vector<std::shared_ptr<Scenario>> DemoProject::makeScenarios(
   const Network optimised = addNetwork(data, optimisation);
   RuleSettingsMaker(optimisation, optimised).apply();
   leaveReleasesToTheSwarm(optimisation, optimised);
-  return {rules, priorities, windows, optimisation};
+
+  auto curve = std::make_shared<GuaranteeCurveScenario>(5, record, "Curva de garantia");
+  const Network curveNetwork = addNetwork(data, curve);
+  RuleSettingsMaker(curve, curveNetwork).apply();
+  askForTheCurve(curve, curveNetwork);
+  return {rules, priorities, windows, optimisation, curve};
 }
 
 bool DemoProject::build(const std::filesystem::path& dataFolder, unsigned int lastYear,

@@ -5,6 +5,7 @@
 
 #include "CheckCommand.h"
 #include "CompareCommand.h"
+#include "CurveCommand.h"
 #include "DemoCommand.h"
 #include "ErrorText.h"
 #include "ExitStatus.h"
@@ -39,11 +40,11 @@ bool asksForHelp(const std::vector<std::string>& args) {
 
 const std::vector<Command>& KovaApp::commands() {
   static const std::vector<Command> all = {
-      InfoCommand::describe(),    CheckCommand::describe(),    RunCommand::describe(),
-      MetricsCommand::describe(), SeriesCommand::describe(),   CompareCommand::describe(),
-      FrontCommand::describe(),   SolutionCommand::describe(), ReportCommand::describe(),
-      ExportCommand::describe(),  NewCommand::describe(),      SaveAsCommand::describe(),
-      DemoCommand::describe(),    GenerateCommand::describe()};
+      InfoCommand::describe(),    CheckCommand::describe(),  RunCommand::describe(),
+      MetricsCommand::describe(), SeriesCommand::describe(), CompareCommand::describe(),
+      FrontCommand::describe(),   CurveCommand::describe(),  SolutionCommand::describe(),
+      ReportCommand::describe(),  ExportCommand::describe(), NewCommand::describe(),
+      SaveAsCommand::describe(),  DemoCommand::describe(),   GenerateCommand::describe()};
   return all;
 }
 

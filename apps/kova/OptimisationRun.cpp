@@ -3,14 +3,30 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "CurveTable.h"
 #include "FrontTable.h"
 #include "OpenProject.h"
+#include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "optimization/kernel/PseudoRandom.h"
 #include "project/database/SaveProject.h"
 
+namespace {
+
+void storeWith(const OpenProject& project, const std::string& what) {
+  if (!SaveProject::save(project.path().string(), nullptr)) {
+    throw std::runtime_error(project.path().string() + ": could not be written; the " + what +
+                             " found is not stored");
+  }
+}
+
+}  // namespace
+
 void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
                               const OpenProject& project) {
+  if (dynamic_cast<GuaranteeCurveScenario*>(&scenario) && line.has("seed")) {
+    ExecutionGuaranteeCurve::setSeed(line.number("seed", 0, 0));
+  }
   auto* optimisation = dynamic_cast<RuleOptimizationScenario*>(&scenario);
   if (!optimisation) return;
   if (line.has("seed")) PseudoRandom::setSeed(line.number("seed", 0, 0));
@@ -23,12 +39,14 @@ void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
 
 void OptimisationRun::finish(Scenario& scenario, const CommandLine& line,
                              const OpenProject& project, Console& console) {
-  const auto* optimisation = dynamic_cast<const RuleOptimizationScenario*>(&scenario);
-  if (!optimisation) return;
-  FrontTable(*optimisation, false).printTable(console.out);
-  if (line.has("no-save")) return;
-  if (!SaveProject::save(project.path().string(), nullptr)) {
-    throw std::runtime_error(project.path().string() +
-                             ": could not be written; the front found is not stored");
+  if (const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(&scenario)) {
+    const CurveTable table(*curve);
+    table.printTable(console.out);
+    table.printFailures(console.err);
+    if (!line.has("no-save")) storeWith(project, "curve");
+  }
+  if (const auto* optimisation = dynamic_cast<const RuleOptimizationScenario*>(&scenario)) {
+    FrontTable(*optimisation, false).printTable(console.out);
+    if (!line.has("no-save")) storeWith(project, "front");
   }
 }

@@ -6,6 +6,7 @@
 #include "OpenProject.h"
 #include "UsageError.h"
 #include "managers/AutomatedScenarioBuilder.h"
+#include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "project/database/SaveProject.h"
 #include "scenario/RuleScenario.h"
@@ -24,12 +25,14 @@ unsigned int nextIndex() {
 Command SolutionCommand::describe() {
   return {"solution",
           "kova solution P.sjson --scenario NAME --row I",
-          "make the rule scenario of one solution of an optimisation's front",
+          "make the rule scenario of one row of a front or of a guarantee curve",
           "Makes the rule scenario \"NAME-SOL-I\" out of row I of the stored front of the rule\n"
           "optimisation NAME (the rows 'kova front' prints): the same network and period, run\n"
           "continuously, each optimisable rule replaced by the simulation rule that the row's\n"
-          "decision variables give. The scenario is saved into the project; 'kova run' then runs\n"
-          "it and reproduces the row's objective values.\n"
+          "decision variables give; 'kova run' then reproduces the row's objective values. For\n"
+          "a guarantee curve NAME it makes \"NAME-GUA-I\", in which each reservoir of the curve\n"
+          "releases its flow of row I ('kova curve') constantly. The scenario is saved into the\n"
+          "project.\n"
           "Exit status: 0 made, 2 usage or file error (no such row, the scenario exists), 3\n"
           "cancelled.\n",
           {{"scenario", "row"}, {}, {}, 1, 1},
@@ -40,26 +43,31 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
   Interrupt::Guard interruptible;
   OpenProject project(line.positional(0), nullptr, OpenProject::Access::readWrite);
   const auto scenario = project.scenario(line.required("scenario"));
-  const auto& optimisation = FrontTable::optimisationOf(*scenario);
-  const std::size_t rows = optimisation.getMatrixOfSolutions().size();
   if (!line.has("row")) throw UsageError("option --row is required");
+  const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(scenario.get());
+  const std::size_t rows =
+      curve ? curve->getExecutionGuaranteeCurve().getGuaranteeStr().values.size()
+            : FrontTable::optimisationOf(*scenario).getMatrixOfSolutions().size();
   const unsigned long row = line.number("row", 0, 0);
   if (row >= rows) {
     throw UsageError("option --row: scenario \"" + scenario->getName() + "\" has " +
-                     std::to_string(rows) + " solution(s) in its stored front" +
+                     std::to_string(rows) + " row(s) in its stored " + (curve ? "curve" : "front") +
                      (rows ? ", rows 0 to " + std::to_string(rows - 1) : std::string()));
   }
-  const std::string name = scenario->getName() + "-SOL-" + std::to_string(row);
+  const std::string name = scenario->getName() + (curve ? "-GUA-" : "-SOL-") + std::to_string(row);
   for (const auto& other : project.scenarios()) {
     if (other->getName() == name) {
       throw UsageError("the project already has a scenario named \"" + name + "\"");
     }
   }
-  const auto solution = AutomatedScenarioBuilder::makeRuleScenarioFromOptimization(
-      optimisation, static_cast<unsigned int>(row),
-      [](long, long) { return !Interrupt::requested(); });
-  if (!solution) return exitCancelled;
-  ScenarioManager::getInstance().addScenery(nextIndex(), solution);
+  const auto goOn = [](long, long) { return !Interrupt::requested(); };
+  const auto index = static_cast<unsigned int>(row);
+  const auto made =
+      curve ? AutomatedScenarioBuilder::makeRuleScenarioFromGuaranteeCurve(*curve, index, goOn)
+            : AutomatedScenarioBuilder::makeRuleScenarioFromOptimization(
+                  FrontTable::optimisationOf(*scenario), index, goOn);
+  if (!made) return exitCancelled;
+  ScenarioManager::getInstance().addScenery(nextIndex(), made);
   if (!SaveProject::save(project.path().string(), nullptr)) {
     throw std::runtime_error(project.path().string() + ": could not be written");
   }

@@ -2,7 +2,7 @@
 
 #include "Command.h"
 
-// kova solution: the rule scenario of one solution of a rule optimisation's stored front.
+// kova solution: the rule scenario of one row of a stored front or guarantee curve.
 class SolutionCommand {
  public:
   static Command describe();

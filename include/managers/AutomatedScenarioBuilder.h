@@ -2,7 +2,10 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
+class GuaranteeCurveScenario;
+class KOVACoreProgressBar;
 class RuleOptimizationScenario;
 class RuleScenario;
 class Scenario;
@@ -21,6 +24,21 @@ class AutomatedScenarioBuilder {
   static std::shared_ptr<RuleScenario> makeRuleScenarioFromOptimization(
       const RuleOptimizationScenario& scenario, unsigned int solutionLineIndex,
       const Progress& progress);
+  // The rule scenario of row of the guarantee curve, named "<source>-GUA-<row>": a continuous run
+  // over the same interval and network in which each reservoir of the curve releases its flow of
+  // that row, constantly. It is stored in the open project database. Throws std::invalid_argument
+  // "AutomatedScenarioBuilder::makeRuleScenarioFromGuaranteeCurve: row out of range of the curve"
+  // for a row the curve does not have; null when progress cancelled it (four steps).
+  static std::shared_ptr<RuleScenario> makeRuleScenarioFromGuaranteeCurve(
+      const GuaranteeCurveScenario& scenario, unsigned int row, const Progress& progress);
   // Replaces every optimisable reservoir rule of scenario by the simulation rule it stands for.
   static void convertOptRuleReleaseToRuleRelease(Scenario& scenario);
+
+ private:
+  // A continuous rule scenario with source's network and interval, named source's name + suffix.
+  static std::shared_ptr<RuleScenario> continuousCopy(const Scenario& source,
+                                                      const std::string& suffix);
+  // Stores scenario in the open project database; null when bar is cancelled.
+  static std::shared_ptr<RuleScenario> store(const std::shared_ptr<RuleScenario>& scenario,
+                                             KOVACoreProgressBar& bar);
 };

@@ -8,16 +8,19 @@
 #include "core/KOVACoreProgressBar.h"
 #include "core/ReservoirRuleSettings.h"
 #include "operation/ExecutionContinuous.h"
+#include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/OptimizationUtils.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "project/database/DatabaseInsert.h"
 #include "project/database/DatabaseSceneryCopy.h"
+#include "rules/ConstReleaseRule.h"
 #include "rules/OptReleaseRule.h"
 #include "scenario/ScenarioManager.h"
 
 namespace {
 
 constexpr unsigned int kSteps = 5;
+constexpr unsigned int kCurveSteps = 4;
 
 }  // namespace
 
@@ -31,11 +34,7 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromOpti
         "range of solutionMatrix");
   }
   KOVACoreProgressBar bar(0, kSteps, progress);
-  auto scenario = std::make_shared<RuleScenario>(
-      std::make_shared<ExecutionContinuous>(), ScenarioManager::getInstance().getNextScenarioId(),
-      source.getInterval(), source.getName() + "-SOL-" + std::to_string(solutionLineIndex));
-  source.copyNetworkInto(*scenario);
-  scenario->resolveRuleReferences();
+  auto scenario = continuousCopy(source, "-SOL-" + std::to_string(solutionLineIndex));
   if (!bar.update()) return nullptr;
   const auto reservoirs =
       ElementsFilter::filterByType(scenario->getElements(), ElementSets::reservoir());
@@ -44,6 +43,43 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromOpti
   if (!bar.update()) return nullptr;
   convertOptRuleReleaseToRuleRelease(*scenario);
   if (!bar.update()) return nullptr;
+  return store(scenario, bar);
+}
+
+std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromGuaranteeCurve(
+    const GuaranteeCurveScenario& source, unsigned int row, const Progress& progress) {
+  const auto& curve = source.getExecutionGuaranteeCurve().getGuaranteeStr();
+  if (row >= curve.values.size()) {
+    throw std::invalid_argument(
+        "AutomatedScenarioBuilder::makeRuleScenarioFromGuaranteeCurve: row out of range of the "
+        "curve");
+  }
+  KOVACoreProgressBar bar(0, kCurveSteps, progress);
+  auto scenario = continuousCopy(source, "-GUA-" + std::to_string(row));
+  if (!bar.update()) return nullptr;
+  for (std::size_t column = 0; column < curve.reservoirIds.size(); ++column) {
+    auto rule = std::make_shared<ConstReleaseRule>();
+    rule->setRelease(curve.values[row][column]);
+    Scenario::getSettings<ReservoirRuleSettings>(scenario->getElement(curve.reservoirIds[column]),
+                                                 scenario->getSettingsManager())
+        ->setRule(rule);
+  }
+  if (!bar.update()) return nullptr;
+  return store(scenario, bar);
+}
+
+std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::continuousCopy(const Scenario& source,
+                                                                       const std::string& suffix) {
+  auto scenario = std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(),
+                                                 ScenarioManager::getInstance().getNextScenarioId(),
+                                                 source.getInterval(), source.getName() + suffix);
+  source.copyNetworkInto(*scenario);
+  scenario->resolveRuleReferences();
+  return scenario;
+}
+
+std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::store(
+    const std::shared_ptr<RuleScenario>& scenario, KOVACoreProgressBar& bar) {
   DatabaseInsert::insertSceneryEntryInDatabase(*scenario);
   if (!bar.update()) return nullptr;
   if (!DatabaseSceneryCopy::sceneryCopy(scenario, nullptr)) return nullptr;

@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 #include <sstream>
 
 #include "ExitStatus.h"
 #include "KovaApp.h"
+#include "common/NumericalUtils.h"
+#include "common/PeriodWalker.h"
+#include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/ObjectiveFunctionFactory.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "project/database/LoadProject.h"
@@ -117,7 +121,7 @@ TEST(KovaOptimization, TheScenarioOfARowReproducesItsObjectivesExactly) {
   EXPECT_NE(again.err.find("already has a scenario named"), std::string::npos) << again.err;
   const auto outside = kova({"solution", project, "--scenario", kOptimisation, "--row", "900"});
   EXPECT_EQ(outside.status, exitUsage);
-  EXPECT_NE(outside.err.find("solution(s) in its stored front"), std::string::npos);
+  EXPECT_NE(outside.err.find("row(s) in its stored front, rows 0 to"), std::string::npos);
 
   const auto scenarios = openProject(project);
   const auto& optimisation =
@@ -155,4 +159,44 @@ TEST(KovaOptimization, FrontAndSolutionRefuseWhatTheyCannotActOn) {
   const auto noThreads =
       kova({"run", project, "--scenario", kOptimisation, "--threads", "0", "--no-save"});
   EXPECT_EQ(noThreads.status, exitUsage);
+}
+
+TEST(KovaOptimization, AGuaranteeCurveIsPrintedStoredAndReproducedByItsRuleScenario) {
+  TemporaryFolder folder("kova_optimisation_");
+  const std::string project = makeDemo(folder);
+  const std::string name = "Curva de garantia";
+  const auto run = kova({"run", project, "--scenario", name, "--seed", "6", "--quiet"});
+  ASSERT_EQ(run.status, exitOk) << run.err;
+  EXPECT_NE(run.out.find("guarantee  Três Marias"), std::string::npos) << run.out;
+  const auto stored = kova({"curve", project, "--scenario", name, "--format", "csv"});
+  ASSERT_EQ(stored.status, exitOk) << stored.err;
+  EXPECT_EQ(stored.out.substr(0, stored.out.find('\n')), "guarantee,Três Marias,Sobradinho");
+
+  // The same seed finds the same curve again.
+  TemporaryFolder other("kova_optimisation_");
+  const std::string copy = makeDemo(other);
+  ASSERT_EQ(kova({"run", copy, "--scenario", name, "--seed", "6", "--quiet"}).status, exitOk);
+  EXPECT_EQ(kova({"curve", copy, "--scenario", name, "--format", "csv"}).out, stored.out);
+
+  ASSERT_EQ(kova({"solution", project, "--scenario", name, "--row", "0"}).status, exitOk);
+  const auto scenarios = openProject(project);
+  const auto& curve = dynamic_cast<const GuaranteeCurveScenario&>(*named(scenarios, name))
+                          .getExecutionGuaranteeCurve();
+  const auto& str = curve.getGuaranteeStr();
+  ASSERT_FALSE(str.guarantees.empty());
+  const auto solution = named(scenarios, name + "-GUA-0");
+  ASSERT_TRUE(solution->run(nullptr));
+  for (std::size_t column = 0; column < str.reservoirIds.size(); ++column) {
+    const double q = str.values[0][column];
+    const auto& released =
+        solution->getElement(str.reservoirIds[column])->getOutputSerie(SerieType::releasedFlow, 0);
+    unsigned int periods = 0, delivered = 0;
+    PeriodWalker::forEach(solution->getInterval(), [&](const Date& date) {
+      ++periods;
+      if (std::fabs(released->getValue(date) - q) <= 1e-6) ++delivered;
+    });
+    EXPECT_GE(delivered * 100.0 / periods + 1e-9,
+              NumericalUtils::getNearGuarantee(str.guarantees[0], periods));
+  }
+  closeProject();
 }

@@ -21,3 +21,6 @@ done
 echo
 echo "== Otimização das regras"
 "$kova" front "$project" --scenario "Otimização das regras"
+echo
+echo "== Curva de garantia"
+"$kova" curve "$project" --scenario "Curva de garantia"

@@ -29,9 +29,9 @@
 //   7. link slack: each link plus its slack is at least 0;
 //   8. maximum release of a reservoir through its artificial links;
 //   9. link limits of the links leaving reservoirs and junctions, as column bounds.
-// Basins have no row: a link leaving a basin is limited only by what it feeds. When the
-// programme is handed to lp_solve every column bound becomes a row of its own, except for goals
-// and slacks, which rest on lp_solve's default bounds.
+// Basins have no row: a link leaving a basin is limited only by what it feeds. lp_solve receives
+// every column bound as a row of its own, except for goals and slacks, which rest on its default
+// bounds; CLP receives the same bounds as bounds (LpSolveSolver, ClpSolver).
 //
 // A pass without an optimal solution means the pinned values of earlier passes, the demands and
 // the limits cannot all hold on that date: NetflowOptimalException, with no relaxation or retry.

@@ -69,6 +69,8 @@ class ExecutionGuaranteeCurve : public ExecutionMethod {
   // std::invalid_argument "ExecutionGuaranteeCurve::setIsolated(): the isolated trial is not
   // available yet" for true.
   void setIsolated(bool value);
+  // The whole simulations of the last run: a trial each.
+  unsigned long getNumberOfSimulations() const { return simulations; }
   const std::vector<double>& getGuaranteeValues() const { return guaranteeValues; }
   // The levels, %, in the order they are run. Throws std::invalid_argument
   // "ExecutionGuaranteeCurve::setGuaranteeValues(): a guarantee must be above 0 and at most 100"
@@ -115,6 +117,7 @@ class ExecutionGuaranteeCurve : public ExecutionMethod {
   GuaranteeStr guaranteeStr;
   std::map<unsigned int, std::string> reservoirFailMap;
   bool onlyQ90 = false;
+  unsigned long simulations = 0;
   std::map<unsigned int, std::shared_ptr<ReleaseRule>> backup;
   std::mt19937 generator;
 };

@@ -111,6 +111,7 @@ bool ExecutionGuaranteeCurve::run(const Interval& runInterval,
                                   const std::shared_ptr<OperationSystem>& operation,
                                   const Progress& progress) {
   reservoirFailMap.clear();
+  simulations = 0;
   const std::vector<double> levels = onlyQ90 ? std::vector<double>{kQ90} : guaranteeValues;
   KOVACoreProgressBar bar(0, static_cast<unsigned int>(levels.size()), progress);
   const Elements reservoirs = curveReservoirs();
@@ -250,6 +251,7 @@ ExecutionGuaranteeCurve::ReservoirStr ExecutionGuaranteeCurve::trial(const Eleme
 }
 
 void ExecutionGuaranteeCurve::simulate() {
+  ++simulations;
   createResults(elements, interval, scenarioType);
   operationSystem->setWindowIndex(0);
   Date date = interval.getBegin();

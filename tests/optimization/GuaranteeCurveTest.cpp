@@ -114,6 +114,8 @@ TEST(GuaranteeCurve, OnlyQ90RunsOneLevelAndACancelledRunRestoresTheRules) {
     return percent >= 0;
   }));
   EXPECT_EQ(cascade.curve().getGuaranteeStr().guarantees, std::vector<double>{90});
+  EXPECT_LE(cascade.curve().getNumberOfSimulations(), 30u);
+  EXPECT_GE(cascade.curve().getNumberOfSimulations(), 1u);
   ASSERT_FALSE(steps.empty());
   EXPECT_EQ(steps.back(), 1);
 

@@ -210,6 +210,9 @@ const std::unordered_map<std::string, std::string>& portuguese() {
        "\"unit\"}.\n"},
       {"warning: the project's inputs were saved after the stored run of {1}",
        "aviso: as entradas do projeto foram gravadas depois da execução gravada de {1}"},
+      {"the stored results of scenario {1} do not cover its dates ({2}); run it again",
+       "os resultados gravados do cenário {1} não cobrem suas datas ({2}); execute-o de novo"},
+      {"element {1}, {2}, {3}", "elemento {1}, {2}, {3}"},
   };
   return table;
 }

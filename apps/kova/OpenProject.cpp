@@ -2,10 +2,13 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
 #include "ErrorText.h"
+#include "HostText.h"
+#include "common/PeriodWalker.h"
 #include "core/Scenario.h"
 #include "managers/ProjectFunctions.h"
 #include "project/JsonLoadPlace.h"
@@ -20,6 +23,32 @@ namespace {
 // Names come from the project file, which does not limit them: messages show them cut.
 std::string quoted(const std::string& text) {
   return "\"" + JsonLoadPlace::shortName(text) + "\"";
+}
+
+// The first date of a window that a result series holding values has no value for, as
+// "element E, series S, YYYY-MM-DD"; empty when every such series covers every date of its
+// window. A series without any value is one the run does not write, not a gap.
+std::string firstGap(const Scenario& scenario) {
+  const auto windows = scenario.calcVectorOfIntervals();
+  for (const auto& element : scenario.getElements()) {
+    if (!element->isEnabled()) continue;
+    const auto held = std::min(windows.size(), element->getOutputSeries().size());
+    for (std::size_t window = 0; window < held; ++window) {
+      for (const auto& serie : element->getVectorOfSeries(static_cast<unsigned int>(window))) {
+        const auto& values = serie->getMapOfJulianToValues();
+        if (values.empty()) continue;
+        std::string missing;
+        PeriodWalker::forEach(windows[window], [&](const Date& date) {
+          if (missing.empty() && values.find(Date::julian(date)) == values.end())
+            missing = date.toString("%Y-%m-%d");
+        });
+        if (!missing.empty())
+          return tr("element {1}, {2}, {3}",
+                    {quoted(element->getName()), quoted(serie->getName()), missing});
+      }
+    }
+  }
+  return "";
 }
 
 void requireReadableFile(const std::filesystem::path& path) {
@@ -112,4 +141,11 @@ void OpenProject::loadLatestResults(const std::shared_ptr<Scenario>& scenario) c
                              " --scenario " + quoted(scenario->getName()) + ")");
   }
   DatabaseProjectLoader::loadResultsByHash(storage, scenario, hashes.back());
+  const std::string gap = firstGap(*scenario);
+  if (!gap.empty()) {
+    throw std::runtime_error(file.string() + ": " +
+                             tr("the stored results of scenario {1} do not cover its dates ({2}); "
+                                "run it again",
+                                {quoted(scenario->getName()), gap}));
+  }
 }

@@ -1,3 +1,4 @@
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -209,6 +210,30 @@ TEST_F(KovaProject, QuietLeavesOnlyResultsAndErrors) {
   const auto failed = kova({"report", project, "--scenario", "Nenhum", "--quiet"});
   EXPECT_EQ(failed.status, exitUsage);
   EXPECT_NE(failed.err, "");
+}
+
+// Results that stop short of the scenario's last date are refused, not measured over what is left.
+TEST_F(KovaProject, StoredResultsThatDoNotCoverTheRunAreRefused) {
+  ASSERT_EQ(kova({"run", project, "--scenario", "Regras", "--quiet"}).status, exitOk);
+  {
+    SQLite::Database database(project + ".sqlite", SQLite::OPEN_READWRITE);
+    ASSERT_GT(database.exec("DELETE FROM SerieOutput WHERE date = '1933-12-01'"), 0);
+  }
+  for (const std::string command : {"metrics", "series", "compare"}) {
+    std::vector<std::string> args = {command, project, "--scenario", "Regras"};
+    if (command == "series") args.insert(args.end(), {"--element", "Queimado"});
+    if (command == "compare") args.insert(args.end(), {"--scenario", "Regras"});
+    const auto refused = kova(args);
+    EXPECT_EQ(refused.status, exitUsage) << command;
+    EXPECT_EQ(refused.out, "") << command;
+    EXPECT_EQ(refused.err.rfind("kova " + command + ": " + project +
+                                    ": the stored results of scenario \"Regras\" do not cover "
+                                    "its dates (element \"",
+                                0),
+              0u)
+        << refused.err;
+    EXPECT_NE(refused.err.find(", 1933-12-01); run it again\n"), std::string::npos) << refused.err;
+  }
 }
 
 TEST_F(KovaProject, RunStoresResultsThatMetricsReportAndNoSaveLeavesTheDatabase) {

@@ -1,37 +1,16 @@
 #include "CurveTable.h"
 
 #include <algorithm>
-#include <iomanip>
 #include <limits>
-#include <sstream>
 #include <stdexcept>
 
+#include "TextColumns.h"
 #include "common/NumericalUtils.h"
 #include "optimization/GuaranteeCurveScenario.h"
 
 namespace {
 
 constexpr double kQ90 = 90.0;
-
-std::string number(double value, int digits) {
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text << std::setprecision(digits) << value;
-  return text.str();
-}
-
-std::size_t displayWidth(const std::string& text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-  }));
-}
-
-std::string csvField(const std::string& text) {
-  if (text.find_first_of(",\"\n") == std::string::npos) return text;
-  std::string quoted = "\"";
-  for (char c : text) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-  return quoted + "\"";
-}
 
 bool isQ90(double level) { return NumericalUtils::compareDoubles(level, kQ90, 1e-6); }
 
@@ -66,36 +45,31 @@ CurveTable::CurveTable(const GuaranteeCurveScenario& scenario) {
 }
 
 void CurveTable::printTable(std::ostream& out) const {
-  std::vector<std::vector<std::string>> lines = {{"guarantee"}};
-  lines[0].insert(lines[0].end(), names.begin(), names.end());
+  std::vector<std::vector<std::string>> lines = {header()};
   for (std::size_t row = 0; row < levels.size(); ++row) {
-    lines.push_back({number(levels[row], 10) + (isQ90(levels[row]) ? " (Q90)" : "")});
-    for (double q : releases[row]) lines.back().push_back(number(q, 10));
+    lines.push_back(fields(row, 10));
+    if (isQ90(levels[row])) lines.back().front() += " (Q90)";
   }
-  std::vector<std::size_t> widths(lines[0].size(), 0);
-  for (const auto& line : lines) {
-    for (std::size_t i = 0; i < line.size() && i < widths.size(); ++i) {
-      widths[i] = std::max(widths[i], displayWidth(line[i]));
-    }
-  }
-  for (const auto& line : lines) {
-    for (std::size_t i = 0; i < line.size() && i < widths.size(); ++i) {
-      out << (i == 0 ? "" : "  ") << std::string(widths[i] - displayWidth(line[i]), ' ') << line[i];
-    }
-    out << '\n';
-  }
+  TextColumns::printAligned(lines, out);
 }
 
 void CurveTable::printCsv(std::ostream& out) const {
-  out << "guarantee";
-  for (const auto& name : names) out << ',' << csvField(name);
-  out << '\n';
-  const int digits = std::numeric_limits<double>::max_digits10;
+  TextColumns::printCsvLine(header(), out);
   for (std::size_t row = 0; row < levels.size(); ++row) {
-    out << number(levels[row], digits);
-    for (double q : releases[row]) out << ',' << number(q, digits);
-    out << '\n';
+    TextColumns::printCsvLine(fields(row, std::numeric_limits<double>::max_digits10), out);
   }
+}
+
+std::vector<std::string> CurveTable::header() const {
+  std::vector<std::string> line = {"guarantee"};
+  line.insert(line.end(), names.begin(), names.end());
+  return line;
+}
+
+std::vector<std::string> CurveTable::fields(std::size_t row, int digits) const {
+  std::vector<std::string> line = {TextColumns::number(levels[row], digits)};
+  for (double q : releases[row]) line.push_back(TextColumns::number(q, digits));
+  return line;
 }
 
 nlohmann::ordered_json CurveTable::toJson() const {

@@ -30,6 +30,9 @@ class CurveTable {
   void printFailures(std::ostream& out) const;
 
  private:
+  std::vector<std::string> header() const;
+  std::vector<std::string> fields(std::size_t row, int digits) const;
+
   std::vector<std::string> names;
   std::vector<double> levels;
   std::vector<std::vector<double>> releases;

@@ -1,37 +1,10 @@
 #include "FrontTable.h"
 
-#include <algorithm>
-#include <iomanip>
 #include <limits>
-#include <sstream>
 #include <stdexcept>
 
+#include "TextColumns.h"
 #include "optimization/RuleOptimizationScenario.h"
-
-namespace {
-
-std::string number(double value, int digits) {
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text << std::setprecision(digits) << value;
-  return text.str();
-}
-
-// Characters as a terminal shows them: UTF-8 continuation bytes take no column.
-std::size_t displayWidth(const std::string& text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-  }));
-}
-
-std::string csvField(const std::string& text) {
-  if (text.find_first_of(",\"\n") == std::string::npos) return text;
-  std::string quoted = "\"";
-  for (char c : text) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-  return quoted + "\"";
-}
-
-}  // namespace
 
 RuleOptimizationScenario& FrontTable::optimisationOf(Scenario& scenario) {
   auto* optimisation = dynamic_cast<RuleOptimizationScenario*>(&scenario);
@@ -61,9 +34,9 @@ std::vector<std::string> FrontTable::header() const {
 
 std::vector<std::string> FrontTable::fields(std::size_t row, int digits) const {
   std::vector<std::string> line = {std::to_string(row)};
-  for (double value : objectives[row]) line.push_back(number(value, digits));
+  for (double value : objectives[row]) line.push_back(TextColumns::number(value, digits));
   if (row < variables.size()) {
-    for (double value : variables[row]) line.push_back(number(value, digits));
+    for (double value : variables[row]) line.push_back(TextColumns::number(value, digits));
   }
   return line;
 }
@@ -71,28 +44,13 @@ std::vector<std::string> FrontTable::fields(std::size_t row, int digits) const {
 void FrontTable::printTable(std::ostream& out) const {
   std::vector<std::vector<std::string>> lines = {header()};
   for (std::size_t row = 0; row < objectives.size(); ++row) lines.push_back(fields(row, 10));
-  std::vector<std::size_t> widths(lines.front().size(), 0);
-  for (const auto& line : lines) {
-    for (std::size_t i = 0; i < line.size() && i < widths.size(); ++i) {
-      widths[i] = std::max(widths[i], displayWidth(line[i]));
-    }
-  }
-  for (const auto& line : lines) {
-    for (std::size_t i = 0; i < line.size() && i < widths.size(); ++i) {
-      out << (i == 0 ? "" : "  ") << std::string(widths[i] - displayWidth(line[i]), ' ') << line[i];
-    }
-    out << '\n';
-  }
+  TextColumns::printAligned(lines, out);
 }
 
 void FrontTable::printCsv(std::ostream& out) const {
-  const auto print = [&](const std::vector<std::string>& line) {
-    for (std::size_t i = 0; i < line.size(); ++i) out << (i == 0 ? "" : ",") << csvField(line[i]);
-    out << '\n';
-  };
-  print(header());
+  TextColumns::printCsvLine(header(), out);
   for (std::size_t row = 0; row < objectives.size(); ++row) {
-    print(fields(row, std::numeric_limits<double>::max_digits10));
+    TextColumns::printCsvLine(fields(row, std::numeric_limits<double>::max_digits10), out);
   }
 }
 

@@ -11,17 +11,6 @@
 #include "optimization/kernel/PseudoRandom.h"
 #include "project/database/SaveProject.h"
 
-namespace {
-
-void storeWith(const OpenProject& project, const std::string& what) {
-  if (!SaveProject::save(project.path().string(), nullptr)) {
-    throw std::runtime_error(project.path().string() + ": could not be written; the " + what +
-                             " found is not stored");
-  }
-}
-
-}  // namespace
-
 void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
                               const OpenProject& project) {
   if (dynamic_cast<GuaranteeCurveScenario*>(&scenario) && line.has("seed")) {
@@ -37,16 +26,28 @@ void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
   optimisation->setResultsFolder(line.has("no-save") ? "" : folder.string());
 }
 
+void OptimisationRun::storeOutput(const OpenProject& project, const std::string& what) {
+  // What is stored is an output: the file keeps the time of its last change of inputs, against
+  // which the stored runs of every scenario are judged stale or not.
+  const auto inputsChanged = std::filesystem::last_write_time(project.path());
+  if (!SaveProject::save(project.path().string(), nullptr)) {
+    throw std::runtime_error(project.path().string() + ": could not be written; the " + what +
+                             " is not stored");
+  }
+  std::error_code ignored;
+  std::filesystem::last_write_time(project.path(), inputsChanged, ignored);
+}
+
 void OptimisationRun::finish(Scenario& scenario, const CommandLine& line,
                              const OpenProject& project, Console& console) {
   if (const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(&scenario)) {
     const CurveTable table(*curve);
     table.printTable(console.out);
     table.printFailures(console.err);
-    if (!line.has("no-save")) storeWith(project, "curve");
+    if (!line.has("no-save")) storeOutput(project, "curve found");
   }
   if (const auto* optimisation = dynamic_cast<const RuleOptimizationScenario*>(&scenario)) {
     FrontTable(*optimisation, false).printTable(console.out);
-    if (!line.has("no-save")) storeWith(project, "front");
+    if (!line.has("no-save")) storeOutput(project, "front found");
   }
 }

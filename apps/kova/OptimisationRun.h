@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "CommandLine.h"
 #include "Console.h"
 
@@ -21,4 +23,8 @@ class OptimisationRun {
   // when it cannot be written.
   static void finish(Scenario& scenario, const CommandLine& line, const OpenProject& project,
                      Console& console);
+  // Writes the project file for an output of the project (a front, a curve, a scenario made from
+  // one), keeping the file's time of change, so that the runs stored before do not look older than
+  // the project's inputs. Throws std::runtime_error naming the file and what when it cannot.
+  static void storeOutput(const OpenProject& project, const std::string& what);
 };

@@ -4,11 +4,11 @@
 #include "FrontTable.h"
 #include "Interrupt.h"
 #include "OpenProject.h"
+#include "OptimisationRun.h"
 #include "UsageError.h"
 #include "managers/AutomatedScenarioBuilder.h"
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
-#include "project/database/SaveProject.h"
 #include "scenario/RuleScenario.h"
 #include "scenario/ScenarioManager.h"
 
@@ -68,9 +68,7 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
                   FrontTable::optimisationOf(*scenario), index, goOn);
   if (!made) return exitCancelled;
   ScenarioManager::getInstance().addScenery(nextIndex(), made);
-  if (!SaveProject::save(project.path().string(), nullptr)) {
-    throw std::runtime_error(project.path().string() + ": could not be written");
-  }
+  OptimisationRun::storeOutput(project, "scenario " + name);
   console.out << name << ": made from row " << row << " of \"" << scenario->getName()
               << "\" and saved\n";
   return exitOk;

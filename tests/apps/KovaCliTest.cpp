@@ -328,7 +328,8 @@ TEST_F(KovaProject, ABadProjectOrScenarioIsNamedInOneLine) {
   EXPECT_EQ(unknown.err,
             "kova check: " + project +
                 ": no scenario named \"Seca\" (scenarios: \"Regras\", \"Prioridades\", "
-                "\"Janelas a partir do armazenamento atual\", \"Otimização das regras\")\n");
+                "\"Janelas a partir do armazenamento atual\", \"Otimização das regras\", "
+                "\"Curva de garantia\")\n");
 
   const std::string broken = folder.file("quebrado.sjson");
   fs::copy_file(project + ".sqlite", broken + ".sqlite");

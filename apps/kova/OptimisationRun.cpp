@@ -6,10 +6,17 @@
 #include "CurveTable.h"
 #include "FrontTable.h"
 #include "OpenProject.h"
+#include "UsageError.h"
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
 #include "optimization/kernel/PseudoRandom.h"
 #include "project/database/SaveProject.h"
+
+namespace {
+
+constexpr unsigned long kMostThreads = 256;
+
+}  // namespace
 
 void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
                               const OpenProject& project) {
@@ -20,8 +27,15 @@ void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
   if (!optimisation) return;
   if (line.has("seed")) PseudoRandom::setSeed(line.number("seed", 0, 0));
   auto& execution = optimisation->getExecutionOptimization();
-  if (line.has("threads"))
-    execution.setThreads(static_cast<unsigned int>(line.number("threads", 1, 1)));
+  if (line.has("threads")) {
+    // Each thread evaluates on its own copy of the scenario: a mistyped count must not copy it
+    // without end.
+    const unsigned long threads = line.number("threads", 1, 1);
+    if (threads > kMostThreads) {
+      throw UsageError("option --threads: at most " + std::to_string(kMostThreads));
+    }
+    execution.setThreads(static_cast<unsigned int>(threads));
+  }
   const auto folder = std::filesystem::absolute(project.path()).parent_path();
   optimisation->setResultsFolder(line.has("no-save") ? "" : folder.string());
 }

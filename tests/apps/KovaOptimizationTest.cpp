@@ -159,6 +159,10 @@ TEST(KovaOptimization, FrontAndSolutionRefuseWhatTheyCannotActOn) {
   const auto noThreads =
       kova({"run", project, "--scenario", kOptimisation, "--threads", "0", "--no-save"});
   EXPECT_EQ(noThreads.status, exitUsage);
+  const auto tooMany =
+      kova({"run", project, "--scenario", kOptimisation, "--threads", "100000", "--no-save"});
+  EXPECT_EQ(tooMany.status, exitUsage);
+  EXPECT_NE(tooMany.err.find("option --threads: at most 256"), std::string::npos) << tooMany.err;
 }
 
 TEST(KovaOptimization, AGuaranteeCurveIsPrintedStoredAndReproducedByItsRuleScenario) {

@@ -9,25 +9,13 @@
 #include <sstream>
 
 #include "ExitStatus.h"
-#include "KovaApp.h"
+#include "KovaInProcess.h"
 #include "ScenarioFindings.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Outcome {
-  int status;
-  std::string out, err;
-};
-
-Outcome kova(const std::vector<std::string>& args) {
-  std::ostringstream out, err;
-  Console console{out, err, false};
-  const int status = KovaApp::run(args, console);
-  return {status, out.str(), err.str()};
-}
 
 std::size_t linesOf(const std::string& text) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));

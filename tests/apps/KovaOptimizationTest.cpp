@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "ExitStatus.h"
-#include "KovaApp.h"
+#include "KovaInProcess.h"
 #include "common/NumericalUtils.h"
 #include "common/PeriodWalker.h"
 #include "optimization/GuaranteeCurveScenario.h"
@@ -22,18 +22,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string kOptimisation = "Otimização das regras";
-
-struct Outcome {
-  int status;
-  std::string out, err;
-};
-
-Outcome kova(const std::vector<std::string>& args) {
-  std::ostringstream out, err;
-  Console console{out, err, false};
-  const int status = KovaApp::run(args, console);
-  return {status, out.str(), err.str()};
-}
 
 // The demo project over 1931-1933 in folder, its optimisation not run yet.
 std::string makeDemo(const TemporaryFolder& folder) {

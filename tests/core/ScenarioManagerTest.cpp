@@ -58,6 +58,7 @@ TEST_F(ScenarioManagerTest, DeletingTheCurrentScenarioRenumbersTheOthers) {
   EXPECT_EQ(manager.getIndexByScenId(30), 1u);
   EXPECT_THROW_TEXT(manager.getIndexByScenId(20), std::invalid_argument,
                     "ScenarioManager::getIndexByScenId: invalid operation");
+  EXPECT_THROW(manager.mappingScenery(5), std::out_of_range);
 
   manager.deleteCurrentScenery(false);
   EXPECT_EQ(manager.getCurrentScenario(), first);

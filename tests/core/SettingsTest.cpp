@@ -3,7 +3,6 @@
 #include "core/LinkRuleSettings.h"
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "core/ReservoirRuleSettings.h"
-#include "core/SettingsFactory.h"
 #include "core/SettingsManager.h"
 #include "rules/ConstReleaseRule.h"
 #include "support/ExpectThrow.h"
@@ -32,8 +31,6 @@ TEST(SettingsManager, StoresByIdAndCopiesDeeply) {
                     "SettingsManager::getParameters(): invalid elementId");
   EXPECT_THROW_TEXT(manager.destroy(4), std::invalid_argument,
                     "SettingsManager::destroyParameter(): invalid elementId");
-  EXPECT_THROW_TEXT(SettingsFactory::make({static_cast<ScenarioType>(9), ElementType::junction}),
-                    std::invalid_argument, "SettingsFactory::make(): invalid parameter key");
 }
 
 TEST(RuleSettings, MatrixFormsRoundTrip) {

@@ -6,11 +6,7 @@
 #include "vocabulary/EnumFactories.h"
 #include "vocabulary/Vocabulary.h"
 
-TEST(Vocabulary, EveryTableHasItsCountAndRoundTripsByName) {
-  EXPECT_EQ(Vocabulary::elementTypes().getRows().size(), 12u);
-  EXPECT_EQ(Vocabulary::serieTypes().getRows().size(), 40u);
-  EXPECT_EQ(Vocabulary::units().getRows().size(), 17u);
-  EXPECT_EQ(Vocabulary::releaseRuleTypes().getRows().size(), 21u);
+TEST(Vocabulary, EveryTableRoundTripsByName) {
   for (const auto& row : Vocabulary::periodicities().getRows()) {
     SCOPED_TRACE(row.getName());
     EXPECT_EQ(EnumPeriodicityFactory::makePeriodicity(row.getName()), row);
@@ -66,13 +62,9 @@ TEST(Vocabulary, EnumEqualityNeedsTypeAndName) {
   EXPECT_NE(Enum<Sense>(Sense::inverted, "Original"), Vocabulary::of(Sense::original));
 }
 
-TEST(Vocabulary, InputAndOutputKinds) {
-  const std::set<SerieType> inputs = {SerieType::precipitation,         SerieType::evaporation,
-                                      SerieType::naturalIncrementalFlow, SerieType::targetVolume,
-                                      SerieType::demand, SerieType::transitLossPercentage,
-                                      SerieType::linkLimit};
-  EXPECT_EQ(Vocabulary::inputSerieTypes(), inputs);
-  EXPECT_EQ(Vocabulary::outputSerieTypes().size(), 34u);
+// The target volume is given by the user and written back among the results.
+TEST(Vocabulary, TheTargetVolumeIsBothInputAndOutput) {
+  EXPECT_EQ(Vocabulary::inputSerieTypes().count(SerieType::targetVolume), 1u);
   EXPECT_EQ(Vocabulary::outputSerieTypes().count(SerieType::targetVolume), 1u);
 }
 
@@ -108,7 +100,5 @@ TEST(EnumFactories, ContentTypesAndElementSets) {
             ElementSets::demands());
   EXPECT_EQ(ElementSetFactoryByCategory::make(ElementGroup::ElementCategoriesEnum::links),
             (std::set<ElementType>{ElementType::artificialLink, ElementType::naturalLink}));
-  EXPECT_EQ(ElementSets::nodes().size(), 8u);
-  EXPECT_EQ(ElementSets::allElements().size(), 10u);
   EXPECT_EQ(ElementSets::allElements().count(ElementType::genericDemand), 0u);
 }

@@ -1,16 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <typeindex>
 
-#include "checks/DemandCheck.h"
 #include "checks/ElementCheckFactory.h"
-#include "checks/LinkCheck.h"
-#include "checks/NodeRuleChecks.h"
-#include "checks/PriorityDemandCheck.h"
-#include "checks/PriorityReservoirCheck.h"
 #include "checks/SceneryCheckFactory.h"
-#include "core/ElementSets.h"
 #include "core/RuleSettings.h"
 #include "operation/PriorityNetworkBuilder.h"
 #include "scenario/RuleScenario.h"
@@ -313,37 +306,14 @@ TEST(PrioritySceneryCheck, SeveralFaultsAreAllReportedInTableOrderAndRunsAreRefu
   EXPECT_TRUE(network.demand->hasResults());
 }
 
-TEST(ElementCheckFactory, EveryElementOfAPriorityScenarioGetsTheCheckOfItsKind) {
+TEST(ElementCheckFactory, AKindOfScenarioWithoutChecksIsRefused) {
   ValidPriorityNetwork network;
-  const std::map<ElementType, std::type_index> expected = {
-      {ElementType::reservoir, typeid(PriorityReservoirCheck)},
-      {ElementType::humanDemand, typeid(PriorityDemandCheck)},
-      {ElementType::animalDemand, typeid(PriorityDemandCheck)},
-      {ElementType::industrialDemand, typeid(PriorityDemandCheck)},
-      {ElementType::irrigationDemand, typeid(PriorityDemandCheck)},
-      {ElementType::drain, typeid(PriorityDrainDemandCheck)},
-      {ElementType::junction, typeid(PriorityJunctionCheck)},
-      {ElementType::basin, typeid(PriorityBasinCheck)},
-      {ElementType::artificialLink, typeid(PriorityLinkCheck)},
-      {ElementType::naturalLink, typeid(PriorityLinkCheck)}};
-  ASSERT_EQ(expected.size(), ElementSets::allElements().size());
-  for (const auto& element : network.net.scenario->getElements()) {
-    const auto check = ElementCheckFactory::make(element, network.net.scenario);
-    EXPECT_EQ(std::type_index(typeid(*check)), expected.at(element->getType()))
-        << element->getName();
-  }
-  for (ElementType type :
-       {ElementType::animalDemand, ElementType::industrialDemand, ElementType::irrigationDemand}) {
-    const auto check = ElementCheckFactory::make(network.net.node(type), network.net.scenario);
-    EXPECT_EQ(std::type_index(typeid(*check)), expected.at(type));
-  }
-  const PriorityDemandCheck demandCheck(network.demand, network.net.scenario);
-  const PriorityDrainDemandCheck drainCheck(network.drain, network.net.scenario);
-  EXPECT_EQ(demandCheck.maxPriority(), 99.0);
-  EXPECT_EQ(drainCheck.maxPriority(), 100.0);
-
-  auto systemCurve = std::make_shared<RuleScenarioOfKind<ScenarioType::systemGuaranteeCurve>>();
-  EXPECT_THROW_TEXT(ElementCheckFactory::make(network.reservoir, systemCurve),
+  struct UnknownKind : RuleScenarioOfKind<ScenarioType::ruleSimulator> {
+    Enum<ScenarioType> getScenarioType() const override {
+      return {static_cast<ScenarioType>(9), "Desconhecido"};
+    }
+  };
+  EXPECT_THROW_TEXT(ElementCheckFactory::make(network.reservoir, std::make_shared<UnknownKind>()),
                     std::invalid_argument, "ElementCheckFactory::make(): invalid parameter key");
 }
 

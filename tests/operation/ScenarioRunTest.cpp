@@ -220,35 +220,6 @@ TEST(ScenarioRunSpine, AStoredLoopIsRefusedBeforeTheRun) {
   EXPECT_FALSE(a->hasResults());
 }
 
-TEST(ScenarioManagerTest, IndexesCurrentScenarioAndFailures) {
-  auto& manager = ScenarioManager::getInstance();
-  manager.clear();
-  auto interval = NetworkBuilder::monthly(2000, 2000);
-  auto make = [&](unsigned int id) {
-    return std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(), id, interval,
-                                          "S" + std::to_string(id));
-  };
-  auto first = make(10), second = make(20), third = make(30);
-  manager.addScenery(0, first);
-  manager.addScenery(1, second);
-  manager.addScenery(2, third);
-  EXPECT_EQ(manager.getCurrentScenario(), first);
-  EXPECT_EQ(manager.getIndexByScenId(20), 1u);
-  manager.setCurrentScenario(1);
-  manager.deleteCurrentScenery(false);
-  EXPECT_EQ(manager.getNumberOfSceneries(), 2u);
-  EXPECT_EQ(manager.mappingScenery(1), third);
-  EXPECT_EQ(manager.getCurrentScenario(), third);
-  EXPECT_THROW_TEXT(manager.getIndexByScenId(20), std::invalid_argument,
-                    "ScenarioManager::getIndexByScenId: invalid operation");
-  EXPECT_THROW_TEXT(manager.executeScenery(2, nullptr, nullptr), std::invalid_argument,
-                    "ScenarioManager::executeScenery: scenery's index is invalid");
-  EXPECT_THROW(manager.mappingScenery(5), std::out_of_range);
-  manager.clear();
-  EXPECT_THROW_TEXT(manager.getIndexOfCurrentScen(), std::invalid_argument,
-                    "ScenarioManager::getIndexOfCurrentScen: invalid operation");
-}
-
 TEST(ExecutionMethods, FactoryAndProgressBar) {
   const Interval interval = NetworkBuilder::monthly(2000, 2000);
   auto method = ExecutionMethodFactoryByType::make(ExecutionType::continuous, interval);

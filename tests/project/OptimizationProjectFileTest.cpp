@@ -213,16 +213,11 @@ TEST_F(OptimizationProjectFileTest, AWrongOptimisationKeyIsOneLineNamingItsPlace
   const struct {
     std::string from, to, expected;
   } cases[] = {
-      {R"("name":"Déficit no atendimento à demanda")", R"("name":"Volume perdido")",
-       "getObjectiveFunctionByString(): Invalid objective function"},
       {R"("type":"SMPSO")", R"("type":"NSGA")",
        "getOptimizationAlgorithmTypeByString(): Invalid optimization algorithm type"},
       {R"("particlesSize":4)", R"("particlesSize":0)", "OptAlgorithm"},
-      {R"(,"OptAlgorithm":{)", R"(,"Algoritmo":{)", "OptAlgorithm"},
       {R"("personalizedObjectiveFunctions":[])", R"("personalizedObjectiveFunctions":[{}])",
        "functions by expression are not read yet"},
-      {R"("toOpt":[1,0,1,0,0,0,0,0,0,0,1,0])", R"("toOpt":[1,0,1])",
-       "OptPeriodicReleaseRule::setToOpt(): invalid size of vector toOpt"},
       {R"("OptRelease":[0,1,1])", R"("OptRelease":[0,1])", "3 flags (0 or 1), one per value"},
       {R"("OptPercentage":1,)", R"("OptPercentage":"sim",)", "OptPercentage"},
       {R"("objectiveFunctionsValues":[[)", R"("objectiveFunctionsValues":[[0],[)",

@@ -1,23 +1,22 @@
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <set>
-#include <sstream>
 
 #include "GeneratedProject.h"
-#include "KovaApp.h"
+#include "KovaInProcess.h"
 #include "OpenProject.h"
 #include "common/PeriodWalker.h"
 #include "core/ElementsFilter.h"
 #include "core/PrioritySettings.h"
 #include "core/ReservoirRuleSettings.h"
 #include "managers/ProjectFunctions.h"
-#include "project/database/SQLiteOrmUtilities.h"
+#include "project/database/DatabaseTestSupport.h"
 #include "scenario/ScenarioManager.h"
 #include "support/ExpectThrow.h"
+#include "support/FileText.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
@@ -30,48 +29,6 @@ GeneratedProjectOptions small(GeneratedMode mode, std::uint64_t seed = 7) {
   options.mode = mode;
   options.seed = seed;
   return options;
-}
-
-struct Outcome {
-  int status;
-  std::string out, err;
-};
-
-Outcome kova(const std::vector<std::string>& args) {
-  std::ostringstream out, err;
-  Console console{out, err};
-  const int status = KovaApp::run(args, console);
-  return {status, out.str(), err.str()};
-}
-
-std::string readFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
-// Every row of every table, without the columns that hold the time of writing.
-std::string contentWithoutTimes(const std::string& path) {
-  SQLite::Database database(path, SQLite::OPEN_READONLY);
-  std::string text;
-  for (const auto& table : SQLiteOrmUtilities::tables()) {
-    std::string columns;
-    for (const auto& column : table.columns) {
-      if (column.name == "timeStamp") continue;
-      columns += (columns.empty() ? "\"" : ", \"") + column.name + "\"";
-    }
-    SQLite::Statement query(database,
-                            "SELECT " + columns + " FROM \"" + table.name + "\" ORDER BY 1");
-    text += table.name + "\n";
-    while (query.executeStep()) {
-      for (int column = 0; column < query.getColumnCount(); ++column) {
-        text += query.getColumn(column).getString() + ",";
-      }
-      text += "\n";
-    }
-  }
-  return text;
 }
 
 Scenario::Elements reservoirsOf(const Scenario& scenario) {
@@ -213,9 +170,11 @@ TEST_F(GeneratedProjectTest, SameSeedGivesTheSameFilesAndAnotherSeedOtherInflows
     const auto first = generate(mode + "1.sjson", "42");
     const auto second = generate(mode + "2.sjson", "42");
     EXPECT_EQ(readFile(first), readFile(second));
-    EXPECT_EQ(contentWithoutTimes(first + ".sqlite"), contentWithoutTimes(second + ".sqlite"));
+    EXPECT_EQ(databasetest::contentOf(first + ".sqlite", "timeStamp"),
+              databasetest::contentOf(second + ".sqlite", "timeStamp"));
     const auto other = generate(mode + "3.sjson", "43");
-    EXPECT_NE(contentWithoutTimes(first + ".sqlite"), contentWithoutTimes(other + ".sqlite"));
+    EXPECT_NE(databasetest::contentOf(first + ".sqlite", "timeStamp"),
+              databasetest::contentOf(other + ".sqlite", "timeStamp"));
   }
   const auto inflows = [](std::uint64_t seed) {
     const auto scenario = GeneratedProject::make(small(GeneratedMode::rule, seed));

@@ -1,20 +1,15 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/mount.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
-#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "DemoProject.h"
+#include "KovaProcess.h"
 #include "NewProjectTarget.h"
 #include "project/JsonProjectLoader.h"
 #include "support/FileText.h"
@@ -23,53 +18,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-// kova as its own process. As the super-user, asNobody runs it as the user nobody, to whom
-// permissions apply; killAfter, when set, ends it with signal after that many milliseconds.
-struct Outcome {
-  int status = -1;  // exit status, -1 when a signal ended it
-  std::string out, err;
-};
-
-Outcome kova(const std::vector<std::string>& args, bool asNobody = false, int signal = 0,
-             int killAfterMs = 0) {
-  int out[2], err[2];
-  if (pipe(out) != 0 || pipe(err) != 0) throw std::runtime_error("pipe");
-  const pid_t pid = fork();
-  if (pid == 0) {
-    constexpr uid_t kNobody = 65534;
-    if (asNobody && geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) _exit(126);
-    dup2(out[1], STDOUT_FILENO);
-    dup2(err[1], STDERR_FILENO);
-    std::vector<char*> argv{const_cast<char*>(KOVA_BINARY)};
-    for (const auto& arg : args) argv.push_back(const_cast<char*>(arg.c_str()));
-    argv.push_back(nullptr);
-    execv(KOVA_BINARY, argv.data());
-    _exit(127);
-  }
-  close(out[1]);
-  close(err[1]);
-  std::thread killer;
-  if (signal != 0) {
-    killer = std::thread([=] {
-      std::this_thread::sleep_for(std::chrono::milliseconds(killAfterMs));
-      kill(pid, signal);
-    });
-  }
-  Outcome run;
-  std::array<char, 4096> buffer{};
-  for (ssize_t got; (got = read(err[0], buffer.data(), buffer.size())) > 0;)
-    run.err.append(buffer.data(), got);
-  for (ssize_t got; (got = read(out[0], buffer.data(), buffer.size())) > 0;)
-    run.out.append(buffer.data(), got);
-  close(out[0]);
-  close(err[0]);
-  int raw = 0;
-  waitpid(pid, &raw, 0);
-  if (killer.joinable()) killer.join();
-  run.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  return run;
-}
 
 fs::path pathOf(const TemporaryFolder& folder) { return fs::path(folder.file("x")).parent_path(); }
 
@@ -109,7 +57,7 @@ TEST(KovaBoundary, AReadOnlyProjectIsReadableByAnotherUser) {
   const auto folder = openFolder();
   const std::string project = folder->file("leitura.sjson");
   saveDemo(project, 1932);
-  ASSERT_EQ(kova({"run", project, "--quiet", "--scenario", "Regras"}).status, 0);
+  ASSERT_EQ(kovaProcess({"run", project, "--quiet", "--scenario", "Regras"}).status, 0);
   const std::string before = readFile(project + ".sqlite");
   for (const std::string& file : {project, project + ".sqlite"}) {
     fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
@@ -125,10 +73,10 @@ TEST(KovaBoundary, AReadOnlyProjectIsReadableByAnotherUser) {
   };
   for (const auto& args : reads) {
     SCOPED_TRACE(args[0]);
-    const Outcome run = kova(args, true);
+    const Outcome run = kovaProcess(args, ProcessOptions::nobody());
     EXPECT_EQ(run.status, 0) << run.err;
   }
-  const Outcome writing = kova({"run", project, "--quiet"}, true);
+  const Outcome writing = kovaProcess({"run", project, "--quiet"}, ProcessOptions::nobody());
   EXPECT_EQ(writing.status, 2);
   EXPECT_EQ(writing.err, "kova run: " + project + ": cannot be written (no write permission)\n");
   fs::permissions(pathOf(*folder), fs::perms::owner_all);
@@ -142,7 +90,7 @@ TEST(KovaBoundary, ProjectsThatCannotBeReadAreOneLineAndCreateNothing) {
   const std::string alone = folder.file("sozinho.sjson");
   saveDemo(alone, 1931);
   fs::remove(alone + ".sqlite");
-  const Outcome missing = kova({"info", alone});
+  const Outcome missing = kovaProcess({"info", alone});
   EXPECT_EQ(missing.status, 2);
   EXPECT_EQ(missing.err, "kova info: " + alone + ".sqlite: no such project database\n");
   EXPECT_FALSE(fs::exists(alone + ".sqlite"));
@@ -150,14 +98,14 @@ TEST(KovaBoundary, ProjectsThatCannotBeReadAreOneLineAndCreateNothing) {
   const std::string empty = folder.file("vazio.sjson");
   writeFile(empty, "{\"scenarios\":[],\"project\":{}}");
   writeFile(empty + ".sqlite", "");
-  const Outcome none = kova({"check", empty});
+  const Outcome none = kovaProcess({"check", empty});
   EXPECT_EQ(none.status, 2);
   EXPECT_EQ(none.err, "kova check: " + empty + ": the project has no scenario\n");
 
   const std::string cut = folder.file("cortado.sjson");
   writeFile(cut, readFile(alone).substr(0, 300));
   writeFile(cut + ".sqlite", "");
-  const Outcome broken = kova({"info", cut});
+  const Outcome broken = kovaProcess({"info", cut});
   EXPECT_EQ(broken.status, 2);
   EXPECT_EQ(broken.err.rfind("kova info: " + cut + ": not a JSON text: parse error at line 1", 0),
             0u)
@@ -174,8 +122,8 @@ TEST(KovaBoundary, OnlyWritersWaitForALockAndLearnItBeforeTheyCompute) {
   {
     SQLite::Database holder(project + ".sqlite", SQLite::OPEN_READWRITE);
     holder.exec("BEGIN IMMEDIATE");
-    EXPECT_EQ(kova({"info", project}).status, 0);
-    const Outcome writer = kova({"run", project, "--quiet"});
+    EXPECT_EQ(kovaProcess({"info", project}).status, 0);
+    const Outcome writer = kovaProcess({"run", project, "--quiet"});
     EXPECT_EQ(writer.status, 2);
     EXPECT_NE(writer.err.find("Banco de dados do projeto está bloqueado."), std::string::npos)
         << writer.err;
@@ -186,7 +134,8 @@ TEST(KovaBoundary, OnlyWritersWaitForALockAndLearnItBeforeTheyCompute) {
   fs::create_directories(closed);
   fs::permissions(closed, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
                               fs::perms::others_exec);
-  const Outcome csv = kova({"run", project, "--no-save", "--quiet", "--csv", closed}, true);
+  const Outcome csv = kovaProcess({"run", project, "--no-save", "--quiet", "--csv", closed},
+                                  ProcessOptions::nobody());
   EXPECT_EQ(csv.status, 2);
   EXPECT_EQ(csv.err,
             "kova run: " + closed + ": CSV files cannot be written there (Permission denied)\n");
@@ -234,7 +183,7 @@ TEST(KovaBoundary, MalformedProjectsGetOneLineNamingFileAndPlace) {
     for (const std::vector<std::string>& args : {std::vector<std::string>{"check", file},
                                                  {"run", file, "--no-save", "--quiet"},
                                                  {"metrics", file, "--scenario", "Vale"}}) {
-      const Outcome outcome = kova(args);
+      const Outcome outcome = kovaProcess(args);
       if (outcome.status != 2) continue;
       ++refused;
       const std::string start = "kova " + args[0] + ": " + file + ": ";
@@ -264,18 +213,18 @@ TEST(KovaBoundary, AKilledSaveLeavesNothingOrAProjectAndARetryWorks) {
       if (command == "save-as") args = {"save-as", source, project, "--quiet"};
       if (command == "new") args = {"new", project};
       if (command == "demo") args = {"demo", target.string(), "--until", "1940", "--quiet"};
-      const Outcome killed = kova(args, false, SIGKILL, ms);
+      const Outcome killed = kovaProcess(args, ProcessOptions::signalAfter(SIGKILL, ms));
       const std::string written =
           command == "demo" ? (target / "sao_francisco.sjson").string() : project;
       if (fs::exists(written)) {
         EXPECT_TRUE(fs::exists(written + ".sqlite"));
-        EXPECT_EQ(kova({"info", written}).status, 0);
+        EXPECT_EQ(kovaProcess({"info", written}).status, 0);
         continue;
       }
       EXPECT_FALSE(fs::exists(written + ".sqlite"));
-      const Outcome retry = kova(args);
+      const Outcome retry = kovaProcess(args);
       EXPECT_EQ(retry.status, 0) << retry.err;
-      EXPECT_EQ(kova({"info", written}).status, 0);
+      EXPECT_EQ(kovaProcess({"info", written}).status, 0);
       // What the killed attempt left under its partial names went with the retry.
       EXPECT_EQ(filesIn(target).size(), 2u);
     }
@@ -284,7 +233,8 @@ TEST(KovaBoundary, AKilledSaveLeavesNothingOrAProjectAndARetryWorks) {
 
 TEST(KovaBoundary, CtrlCDuringTheDemoExitsThreeAndLeavesNothing) {
   TemporaryFolder folder("kova_boundary_");
-  const Outcome interrupted = kova({"demo", pathOf(folder).string()}, false, SIGINT, 300);
+  const Outcome interrupted =
+      kovaProcess({"demo", pathOf(folder).string()}, ProcessOptions::signalAfter(SIGINT, 300));
   if (interrupted.status == 0) GTEST_SKIP() << "the demo was written before the interrupt came";
   EXPECT_EQ(interrupted.status, 3) << interrupted.err;
   EXPECT_TRUE(filesIn(pathOf(folder)).empty());
@@ -295,17 +245,18 @@ TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
   TemporaryFolder folder("kova_boundary_");
   const std::string source = folder.file("origem.sjson");
   saveDemo(source, 1950);
-  ASSERT_EQ(kova({"run", source, "--quiet", "--scenario", "Regras"}).status, 0);
+  ASSERT_EQ(kovaProcess({"run", source, "--quiet", "--scenario", "Regras"}).status, 0);
   const fs::path disk = pathOf(folder) / "disco";
   fs::create_directories(disk);
   if (!canMount(disk, "64k")) GTEST_SKIP() << "a small tmpfs needs the super-user; not tested";
-  const Outcome saved = kova({"save-as", source, (disk / "copia.sjson").string(), "--quiet"});
+  const Outcome saved =
+      kovaProcess({"save-as", source, (disk / "copia.sjson").string(), "--quiet"});
   EXPECT_EQ(saved.status, 2) << saved.err;
   EXPECT_EQ(std::count(saved.err.begin(), saved.err.end(), '\n'), 1) << saved.err;
   EXPECT_TRUE(filesIn(disk).empty());
 
   const Outcome exported =
-      kova({"export", "csv", source, "--scenario", "Regras", "--out", disk.string()});
+      kovaProcess({"export", "csv", source, "--scenario", "Regras", "--out", disk.string()});
   EXPECT_EQ(exported.status, 2) << exported.out;
   EXPECT_NE(exported.err.find("erro ao escrever arquivo: " + disk.string()), std::string::npos)
       << exported.err;
@@ -321,7 +272,7 @@ TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
     }
   }
   const Outcome curves =
-      kova({"export", "cav", source, "--scenario", "Regras", "--out", disk.string()});
+      kovaProcess({"export", "cav", source, "--scenario", "Regras", "--out", disk.string()});
   EXPECT_EQ(curves.status, 2) << curves.out;
   EXPECT_EQ(curves.err, "kova export: CSVCav::exportCavs(): erro ao escrever arquivo: " +
                             (disk / "Regras_cav.txt").string() + "\n");
@@ -331,9 +282,10 @@ TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
 
 TEST(KovaBoundary, CtrlCDuringGenerateExitsThreeAndLeavesNothing) {
   TemporaryFolder folder("kova_boundary_");
-  const Outcome interrupted = kova({"generate", folder.file("grande.sjson"), "--reservoirs", "50",
-                                    "--demands", "100", "--periods", "1200", "--quiet"},
-                                   false, SIGINT, 300);
+  const Outcome interrupted =
+      kovaProcess({"generate", folder.file("grande.sjson"), "--reservoirs", "50", "--demands",
+                   "100", "--periods", "1200", "--quiet"},
+                  ProcessOptions::signalAfter(SIGINT, 300));
   if (interrupted.status == 0) GTEST_SKIP() << "the project was written before the interrupt came";
   EXPECT_EQ(interrupted.status, 3) << interrupted.err;
   EXPECT_TRUE(filesIn(pathOf(folder)).empty());
@@ -345,7 +297,8 @@ TEST(KovaBoundary, CtrlCDuringSaveAsExitsThreeAndLeavesTheSourceAlone) {
   saveDemo(source, 2019);
   const std::string before = readFile(source + ".sqlite");
   const Outcome interrupted =
-      kova({"save-as", source, folder.file("copia.sjson"), "--quiet"}, false, SIGINT, 300);
+      kovaProcess({"save-as", source, folder.file("copia.sjson"), "--quiet"},
+                  ProcessOptions::signalAfter(SIGINT, 300));
   if (interrupted.status == 0) GTEST_SKIP() << "the copy was written before the interrupt came";
   EXPECT_EQ(interrupted.status, 3) << interrupted.err;
   EXPECT_EQ(filesIn(pathOf(folder)),

@@ -5,13 +5,11 @@
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 #include "CommandLine.h"
 #include "CsvTable.h"
 #include "ExitStatus.h"
-#include "HostText.h"
-#include "KovaApp.h"
+#include "KovaInProcess.h"
 #include "UsageError.h"
 #include "support/ExpectThrow.h"
 #include "support/FileText.h"
@@ -20,20 +18,6 @@
 namespace {
 
 const OptionSpec kSpec{{"scenario", "format"}, {"only"}, {"quiet"}, 1, 2};
-
-// What a command printed and how it ended.
-struct Outcome {
-  int status;
-  std::string out, err;
-};
-
-Outcome kova(const std::vector<std::string>& args) {
-  HostText::use(HostText::Language::english);
-  std::ostringstream out, err;
-  Console console{out, err, false};
-  const int status = KovaApp::run(args, console);
-  return {status, out.str(), err.str()};
-}
 
 }  // namespace
 

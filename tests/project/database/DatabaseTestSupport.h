@@ -79,13 +79,19 @@ inline std::string firstDifference(const Snapshot& a, const Snapshot& b) {
   return "";
 }
 
-// Every row of every table of the database at path, as text: two equal texts are two equal
-// databases.
-inline std::string contentOf(const std::string& path) {
+// Every row of every table of the database at path, as text, without the columns named leftOut
+// (the time of writing, say): two equal texts are two equal databases.
+inline std::string contentOf(const std::string& path, const std::string& leftOut = "") {
   SQLite::Database database(path, SQLite::OPEN_READONLY);
   std::string text;
   for (const auto& table : SQLiteOrmUtilities::tables()) {
-    SQLite::Statement query(database, "SELECT * FROM \"" + table.name + "\" ORDER BY 1");
+    std::string columns = leftOut.empty() ? "*" : "";
+    for (const auto& column : table.columns) {
+      if (leftOut.empty() || column.name == leftOut) continue;
+      columns += (columns.empty() ? "\"" : ", \"") + column.name + "\"";
+    }
+    SQLite::Statement query(database,
+                            "SELECT " + columns + " FROM \"" + table.name + "\" ORDER BY 1");
     text += table.name + "\n";
     while (query.executeStep()) {
       for (int column = 0; column < query.getColumnCount(); ++column) {

@@ -57,18 +57,6 @@ std::string loadFailure(const projectfile::TemporaryFolder& folder, const std::s
   return "loaded";
 }
 
-// The series stay in the database, not in the file: the loaded system gets them from the original.
-void handOverSeries(const Scenario& from, const Scenario& to) {
-  for (const auto& element : from.getElements()) {
-    const auto& copy = to.getElement(element->getId());
-    copy->getInputSeries()->copyFrom(element->getInputSeries());
-    if (auto reservoir = std::dynamic_pointer_cast<Reservoir>(element)) {
-      std::static_pointer_cast<Reservoir>(copy)->getReservoirInfo().cav =
-          reservoir->getReservoirInfo().cav;
-    }
-  }
-}
-
 }  // namespace
 
 TEST_F(OptimizationProjectFileTest, EveryOptimisableRuleSwarmAndFrontComeBackByteIdentical) {
@@ -168,7 +156,7 @@ TEST_F(OptimizationProjectFileTest, ALoadedOptimisationFindsTheFrontOfTheOrigina
   saved({original}, folder.file("p.sjson"));
   auto loaded = loadedOptimisation(folder.file("p.sjson"));
   ASSERT_TRUE(loaded);
-  handOverSeries(*original, *loaded);
+  projectfile::handOverSeries(*original, *loaded);
   loaded->getExecutionOptimization().setThreads(1);
 
   PseudoRandom::setSeed(5);
@@ -196,7 +184,7 @@ TEST_F(OptimizationProjectFileTest, OneObjectiveFunctionLoadsAndItsCheckReportsI
   saved({scenario}, folder.file("p.sjson"));
   auto loaded = loadedOptimisation(folder.file("p.sjson"));
   ASSERT_TRUE(loaded);
-  handOverSeries(*scenario, *loaded);
+  projectfile::handOverSeries(*scenario, *loaded);
   EXPECT_FALSE(loaded->run(nullptr));
   const auto findings = loaded->getSceneryCheck()->getAllErrors();
   ASSERT_EQ(findings.size(), 1u);

@@ -8,6 +8,8 @@
 #include <string>
 
 #include "core/ConfigurationHeader.h"
+#include "core/Reservoir.h"
+#include "core/Scenario.h"
 #include "project/JsonLoadElement.h"
 #include "project/JsonSaveElement.h"
 #include "scenario/ScenarioManager.h"
@@ -41,6 +43,19 @@ inline std::string replaced(std::string text, const std::string& from, const std
   EXPECT_NE(at, std::string::npos) << from;
   if (at != std::string::npos) text.replace(at, from.size(), to);
   return text;
+}
+
+// The series and the level-area-volume tables are kept in the project's database, not in its
+// file: the loaded scenario gets them as the database would give them.
+inline void handOverSeries(const Scenario& from, const Scenario& to) {
+  for (const auto& element : from.getElements()) {
+    const auto& copy = to.getElement(element->getId());
+    copy->getInputSeries()->copyFrom(element->getInputSeries());
+    if (auto reservoir = std::dynamic_pointer_cast<Reservoir>(element)) {
+      std::static_pointer_cast<Reservoir>(copy)->getReservoirInfo().cav =
+          reservoir->getReservoirInfo().cav;
+    }
+  }
 }
 
 // The process-wide state that saving and loading use, back to its defaults around each test.

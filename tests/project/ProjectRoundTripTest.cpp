@@ -95,19 +95,6 @@ void setNonDefaultConfiguration() {
   ConfigurationHeader::setCoreReservoirColors({{1, 2, 3, 90.0}});
 }
 
-// The series and the level-area-volume tables are kept in the project's database, not in its
-// file: the loaded scenario gets them as the database would give them.
-void handOverSeries(const Scenario& from, const Scenario& to) {
-  for (const auto& element : from.getElements()) {
-    const auto& copy = to.getElement(element->getId());
-    copy->getInputSeries()->copyFrom(element->getInputSeries());
-    if (auto reservoir = std::dynamic_pointer_cast<Reservoir>(element)) {
-      std::static_pointer_cast<Reservoir>(copy)->getReservoirInfo().cav =
-          reservoir->getReservoirInfo().cav;
-    }
-  }
-}
-
 using Values = std::vector<std::pair<unsigned int, double>>;
 
 Values valuesOf(const Serie& serie) {
@@ -158,7 +145,7 @@ TEST_F(ProjectRoundTripTest, SaveLoadSaveIsByteIdenticalAndRunsTheSame) {
   // The draft cannot run: its rules lack their dependencies.
   for (std::size_t index = 0; index < 2; ++index) {
     SCOPED_TRACE(originals[index]->getName());
-    handOverSeries(*originals[index], *loaded[index]);
+    projectfile::handOverSeries(*originals[index], *loaded[index]);
     ASSERT_TRUE(originals[index]->run(nullptr));
     ASSERT_TRUE(loaded[index]->run(nullptr));
     expectSameResults(*originals[index], *loaded[index]);

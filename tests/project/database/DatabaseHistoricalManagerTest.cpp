@@ -14,11 +14,6 @@ using namespace databasetest;
 
 namespace {
 
-long long rowsOf(const std::string& path, const std::string& where) {
-  SQLite::Database database(path, SQLite::OPEN_READONLY);
-  return database.execAndGet("SELECT COUNT(*) FROM " + where).getInt64();
-}
-
 // A saved project whose database holds every kind of leftover: two runs, an input and a curve
 // replaced with history kept, an element deleted in memory only, and a second scenario that the
 // project no longer has.
@@ -72,7 +67,7 @@ TEST_F(DatabaseHistoricalManagerTest, ErasingTheHistoryLeavesTheProjectAsItLoads
   const auto scenario = ScenarioManager::getInstance().mappingScenery(0);
   const auto inputs = inputsOf(*scenario), results = resultsOf(*scenario);
   const std::string database = path + ".sqlite";
-  ASSERT_GT(rowsOf(database, "SerieOutput WHERE enabled = 0"), 0);
+  ASSERT_GT(countRows(database, "SerieOutput WHERE enabled = 0"), 0);
 
   std::vector<long> steps;
   ASSERT_TRUE(DatabaseHistoricalManager::eraseAllHistorical(
@@ -83,12 +78,12 @@ TEST_F(DatabaseHistoricalManagerTest, ErasingTheHistoryLeavesTheProjectAsItLoads
       }));
   EXPECT_EQ(steps, (std::vector<long>{1, 2, 3, 4, 5, 6, 7, 8}));
   for (const char* table : {"SerieInput", "SerieOutput", "Cav"}) {
-    EXPECT_EQ(rowsOf(database, std::string(table) + " WHERE enabled = 0"), 0) << table;
+    EXPECT_EQ(countRows(database, std::string(table) + " WHERE enabled = 0"), 0) << table;
   }
-  EXPECT_EQ(rowsOf(database, "Scenario"), 1);
-  EXPECT_EQ(rowsOf(database, "Element"), static_cast<long long>(scenario->getElements().size()));
-  EXPECT_EQ(rowsOf(database, "SerieInput WHERE elementID NOT IN (SELECT databaseId FROM Element)"),
-            0);
+  EXPECT_EQ(countRows(database, "Scenario"), 1);
+  EXPECT_EQ(countRows(database, "Element"), static_cast<long long>(scenario->getElements().size()));
+  EXPECT_EQ(
+      countRows(database, "SerieInput WHERE elementID NOT IN (SELECT databaseId FROM Element)"), 0);
 
   SQLStorage::deleteInstance();
   install(LoadProject::load(path, nullptr));

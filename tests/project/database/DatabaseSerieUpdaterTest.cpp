@@ -15,15 +15,6 @@
 using namespace databasetest;
 using DatabaseSerieUpdaterTest = DatabaseTest;
 
-namespace {
-
-long long rowsOf(const std::string& path, const std::string& where) {
-  SQLite::Database database(path, SQLite::OPEN_READONLY);
-  return database.execAndGet("SELECT COUNT(*) FROM " + where).getInt64();
-}
-
-}  // namespace
-
 TEST_F(DatabaseSerieUpdaterTest,
        AnEditedInputReplacesTheRowsOfItsSeriesAndKeepsThemAsHistoryOnAsk) {
   const auto network = installRealisticProject(1931);
@@ -39,20 +30,20 @@ TEST_F(DatabaseSerieUpdaterTest,
       "SerieType.id FROM SerieType JOIN Unit ON Unit.id = SerieType.unit " +
       "WHERE SerieType.type = '" + serie->getName() + "' AND Unit.name = '" +
       serie->getUnit().getName() + "')";
-  const long long stored = rowsOf(path + ".sqlite", rows);
+  const long long stored = countRows(path + ".sqlite", rows);
   ASSERT_EQ(stored, static_cast<long long>(serie->size()));
 
   serie->setValue(Date(1931, 6, 1), 123.25);
   ASSERT_TRUE(DatabaseSerieUpdater::updateDatabase(scenario, *demand, *serie));
-  EXPECT_EQ(rowsOf(path + ".sqlite", rows), stored);
-  EXPECT_EQ(rowsOf(path + ".sqlite", rows + " AND enabled = 1 AND value = 123.25"), 1);
+  EXPECT_EQ(countRows(path + ".sqlite", rows), stored);
+  EXPECT_EQ(countRows(path + ".sqlite", rows + " AND enabled = 1 AND value = 123.25"), 1);
 
   ConfigurationHeader::setKeepInputSerieHistorical(true);
   serie->setValue(Date(1931, 6, 1), 7.5);
   ASSERT_TRUE(DatabaseSerieUpdater::updateDatabase(scenario, *demand, *serie));
-  EXPECT_EQ(rowsOf(path + ".sqlite", rows), 2 * stored);
-  EXPECT_EQ(rowsOf(path + ".sqlite", rows + " AND enabled = 0 AND value = 123.25"), 1);
-  EXPECT_EQ(rowsOf(path + ".sqlite", rows + " AND enabled = 1 AND value = 7.5"), 1);
+  EXPECT_EQ(countRows(path + ".sqlite", rows), 2 * stored);
+  EXPECT_EQ(countRows(path + ".sqlite", rows + " AND enabled = 0 AND value = 123.25"), 1);
+  EXPECT_EQ(countRows(path + ".sqlite", rows + " AND enabled = 1 AND value = 7.5"), 1);
 
   const Serie stranger(scenario.getInterval(), serie->getEnumType(), serie->getUnit());
   EXPECT_THROW_TEXT(
@@ -73,11 +64,11 @@ TEST_F(DatabaseSerieUpdaterTest, AnEditedResultReplacesItsWindowWithinTheStoredR
   const std::string rows =
       "SerieOutput WHERE elementID = " + std::to_string(reservoir->getDatabaseId()) +
       " AND windowid = 0";
-  const long long stored = rowsOf(path + ".sqlite", rows);
+  const long long stored = countRows(path + ".sqlite", rows);
 
   volume->setValue(Date(1931, 3, 1), 1234.5);
   ASSERT_TRUE(DatabaseSerieUpdater::updateDatabase(*scenario, *reservoir, *volume));
-  EXPECT_EQ(rowsOf(path + ".sqlite", rows), stored);
+  EXPECT_EQ(countRows(path + ".sqlite", rows), stored);
   auto& storage = SQLStorage::getInstance().getStorageRef();
   const auto runs = DatabaseSearch::getHashesOfResultsByScenID(storage, scenario->getDatabaseId());
   ASSERT_EQ(runs.size(), 1u);

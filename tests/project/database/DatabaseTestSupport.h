@@ -103,9 +103,10 @@ inline std::string contentOf(const std::string& path, const std::string& leftOut
   return text;
 }
 
-inline long long countRows(const std::string& path, const std::string& table) {
+// The rows of the database at path that from names: a table, or a table and a WHERE clause.
+inline long long countRows(const std::string& path, const std::string& from) {
   SQLite::Database database(path, SQLite::OPEN_READONLY);
-  return database.execAndGet("SELECT COUNT(*) FROM \"" + table + "\"").getInt64();
+  return database.execAndGet("SELECT COUNT(*) FROM " + from).getInt64();
 }
 
 // The rule project of the realistic network over a few monthly years, installed as the open

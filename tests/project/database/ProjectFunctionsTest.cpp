@@ -20,11 +20,6 @@ using ProjectFunctionsTest = DatabaseTest;
 
 namespace {
 
-long long rowsOf(const std::string& path, const std::string& where) {
-  SQLite::Database database(path, SQLite::OPEN_READONLY);
-  return database.execAndGet("SELECT COUNT(*) FROM " + where).getInt64();
-}
-
 // A saved rule project with history in its database: two stored runs and a replaced curve.
 std::unique_ptr<RealisticNetwork> savedWithHistory(const std::string& path) {
   ConfigurationHeader::setSaveOnlyOneResults(false);
@@ -68,7 +63,7 @@ TEST_F(ProjectFunctionsTest, ABlankPriorityProjectReopensAsItWasMade) {
   ASSERT_EQ(ScenarioManager::getInstance().getNumberOfSceneries(), 1u);
   const auto made = ScenarioManager::getInstance().getCurrentScenario();
   EXPECT_EQ(made->getName(), "Cenário 1");
-  EXPECT_EQ(rowsOf(path + ".sqlite", "Scenario"), 1);
+  EXPECT_EQ(countRows(path + ".sqlite", "Scenario"), 1);
   EXPECT_EQ(ProjectResumate::toText(ProjectResumate::getResumate(path)),
             "Cenário 1: Cenário 1\n  Tipo: Otimizador por prioridades\n"
             "  Método de execução: Contínuo\n  Período: 01/" +
@@ -102,7 +97,8 @@ TEST_F(ProjectFunctionsTest, SaveAsWithTheOlderDatabaseTakesItsHistoryAlong) {
   ASSERT_TRUE(ProjectFunctions::saveJsonProjectAsWithOlderDatabase(copy, user, nullptr));
   EXPECT_EQ(SQLStorage::getInstance().getPath(), copy + ".sqlite");
   EXPECT_EQ(contentOf(copy + ".sqlite"), contentOf(path + ".sqlite"));
-  EXPECT_EQ(rowsOf(copy + ".sqlite", "Cav WHERE enabled = 0"), static_cast<long long>(curveRows));
+  EXPECT_EQ(countRows(copy + ".sqlite", "Cav WHERE enabled = 0"),
+            static_cast<long long>(curveRows));
 
   ProjectFunctions::closeProject();
   install(LoadProject::load(copy, nullptr));
@@ -125,7 +121,7 @@ TEST_F(ProjectFunctionsTest, SaveAsWithoutTheOlderDatabaseLeavesTheHistoryBehind
   ASSERT_TRUE(ProjectFunctions::saveJsonProjectAsWithoutOlderDatabase(copy, nullptr));
   EXPECT_EQ(SQLStorage::getInstance().getPath(), copy + ".sqlite");
   for (const char* table : {"SerieInput", "SerieOutput", "Cav"}) {
-    EXPECT_EQ(rowsOf(copy + ".sqlite", std::string(table) + " WHERE enabled = 0"), 0) << table;
+    EXPECT_EQ(countRows(copy + ".sqlite", std::string(table) + " WHERE enabled = 0"), 0) << table;
   }
   ProjectFunctions::closeProject();
   install(LoadProject::load(copy, nullptr));
@@ -149,7 +145,7 @@ TEST_F(ProjectFunctionsTest, ACancelledOrRefusedSaveAsKeepsTheOpenProject) {
   EXPECT_EQ(SQLStorage::getInstance().getPath(), path + ".sqlite");
   EXPECT_THROW(SQLStorage::getInstance().getTemporaryStorageRef(), std::runtime_error);
   EXPECT_FALSE(std::filesystem::exists(copy));
-  EXPECT_EQ(rowsOf(copy + ".sqlite", "Scenario"), 0);
+  EXPECT_EQ(countRows(copy + ".sqlite", "Scenario"), 0);
 
   // Onto its own path the project file alone is written.
   ASSERT_TRUE(ProjectFunctions::saveJsonProjectAsWithOlderDatabase(path, user, nullptr));

@@ -1,28 +1,19 @@
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <set>
 #include <string>
 
 #include "HostText.h"
 #include "KovaApp.h"
+#include "KovaProcess.h"
 
 namespace {
 
-// What kova printed on both streams, run as its own process under the environment given before
-// it on a shell's command line ("LANG=pt_BR.UTF-8").
-std::string kovaUnder(const std::string& environment, const std::string& args) {
-  const std::string command =
-      "env -u LC_ALL -u LC_MESSAGES " + environment + " " KOVA_BINARY " " + args + " 2>&1";
-  FILE* pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr) return "";
-  std::string text;
-  std::array<char, 4096> buffer{};
-  for (std::size_t got; (got = fread(buffer.data(), 1, buffer.size(), pipe)) > 0;)
-    text.append(buffer.data(), got);
-  pclose(pipe);
-  return text;
+// What kova printed on both streams, run as its own process under the locale settings given.
+std::string kovaUnder(const std::vector<std::string>& locale,
+                      const std::vector<std::string>& args) {
+  const Outcome run = kovaProcess(args, ProcessOptions::under(locale));
+  return run.out + run.err;
 }
 
 }  // namespace
@@ -40,19 +31,20 @@ TEST(HostText, FillsPlaceholdersWhereverTheLanguagePutsThem) {
 }
 
 TEST(HostText, TheHostSpeaksTheLanguageOfTheLocale) {
-  const std::string portuguese = kovaUnder("LANG=pt_BR.UTF-8", "--help");
+  const std::string portuguese = kovaUnder({"LANG=pt_BR.UTF-8"}, {"--help"});
   EXPECT_NE(portuguese.find("\nComandos:\n"), std::string::npos) << portuguese;
   EXPECT_NE(portuguese.find("  check     verifica cenários antes de executá-los\n"),
             std::string::npos);
   EXPECT_EQ(portuguese.find("Commands:"), std::string::npos);
-  const std::string english = kovaUnder("LANG=C.UTF-8", "--help");
+  const std::string english = kovaUnder({"LANG=C.UTF-8"}, {"--help"});
   EXPECT_NE(english.find("\nCommands:\n"), std::string::npos) << english;
   EXPECT_NE(english.find("  check     check scenarios before running them\n"), std::string::npos);
   // LC_ALL, when set, is the locale whatever LANG says.
-  EXPECT_NE(kovaUnder("LANG=C LC_ALL=pt_PT.UTF-8", "--help").find("Comandos:"), std::string::npos);
-  EXPECT_EQ(kovaUnder("LANG=pt_BR.UTF-8", "simular p.sjson"),
+  EXPECT_NE(kovaUnder({"LANG=C", "LC_ALL=pt_PT.UTF-8"}, {"--help"}).find("Comandos:"),
+            std::string::npos);
+  EXPECT_EQ(kovaUnder({"LANG=pt_BR.UTF-8"}, {"simular", "p.sjson"}),
             "kova: comando desconhecido \"simular\"; tente 'kova --help'\n");
-  EXPECT_EQ(kovaUnder("LANG=en_GB.UTF-8", "simulate p.sjson"),
+  EXPECT_EQ(kovaUnder({"LANG=en_GB.UTF-8"}, {"simulate", "p.sjson"}),
             "kova: unknown command \"simulate\"; try 'kova --help'\n");
 }
 

@@ -16,17 +16,22 @@
 
 // How kova is run as its own process. As the super-user, asNobody runs it as the user nobody, to
 // whom permissions apply. A signal, when given, is sent afterMs milliseconds after the start or,
-// when onText is given, as soon as the error stream shows that text.
+// when onText is given, as soon as the error stream shows that text. locale, when given, holds
+// the NAME=value settings of the locale the program sees instead of the test's own.
 struct ProcessOptions {
   bool asNobody = false;
   int signal = 0;
   int afterMs = 0;
   std::string onText;
+  std::vector<std::string> locale;
 
-  static ProcessOptions nobody() { return {true, 0, 0, ""}; }
-  static ProcessOptions signalAfter(int signal, int ms) { return {false, signal, ms, ""}; }
+  static ProcessOptions nobody() { return {true, 0, 0, "", {}}; }
+  static ProcessOptions signalAfter(int signal, int ms) { return {false, signal, ms, "", {}}; }
   static ProcessOptions signalOn(int signal, std::string text) {
-    return {false, signal, 0, std::move(text)};
+    return {false, signal, 0, std::move(text), {}};
+  }
+  static ProcessOptions under(std::vector<std::string> locale) {
+    return {false, 0, 0, "", std::move(locale)};
   }
 };
 
@@ -61,6 +66,10 @@ inline Outcome kovaProcess(const std::vector<std::string>& args,
     constexpr uid_t kNobody = 65534;
     if (options.asNobody && geteuid() == 0 && (setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
       _exit(126);
+    }
+    if (!options.locale.empty()) {
+      for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) unsetenv(name);
+      for (const auto& setting : options.locale) putenv(const_cast<char*>(setting.c_str()));
     }
     dup2(out[1], STDOUT_FILENO);
     dup2(err[1], STDERR_FILENO);

@@ -12,6 +12,10 @@ TEST(Vocabulary, EveryTableRoundTripsByName) {
     EXPECT_EQ(EnumPeriodicityFactory::makePeriodicity(row.getName()), row);
     EXPECT_EQ(EnumPeriodicityFactoryByType::make(row.getType()), row);
   }
+  for (const auto& row : Vocabulary::hydrologicalStateTypes().getRows()) {
+    EXPECT_EQ(*Vocabulary::hydrologicalStateTypes().findByName(row.getName()), row);
+    EXPECT_EQ(Vocabulary::of(row.getType()), row);
+  }
   for (const auto& row : Vocabulary::units().getRows()) {
     SCOPED_TRACE(row.getName());
     EXPECT_EQ(EnumUnitFactory::makeUnit(row.getName()), row);

@@ -57,24 +57,9 @@ void expectNear(const std::vector<double>& actual, const std::vector<double>& ex
 
 }  // namespace
 
-TEST(HydrologicalStateType, NamesRoundTrip) {
-  const std::vector<std::string> names = {"Sem", "Padrão", "Por reservatório",
-                                          "Por reservatório mensal"};
-  ASSERT_EQ(Vocabulary::hydrologicalStateTypes().getRows().size(), names.size());
-  for (int value = 0; value < 4; ++value) {
-    const auto& row = Vocabulary::of(static_cast<HydrologicalStateType>(value));
-    EXPECT_EQ(row.getName(), names[static_cast<std::size_t>(value)]);
-    EXPECT_EQ(Vocabulary::hydrologicalStateTypes().findByName(row.getName())->getId(), value);
-  }
-}
-
 // New shares are tested only at the next call: the bad 0.7 + 0.6 is stored, then refused.
 TEST(HydrologicalStateConfiguration, SharesAreTestedAtTheNextCall) {
   HydrologicalStateConfiguration config;
-  EXPECT_EQ(config.getXValues(), std::vector<double>{0.0});
-  EXPECT_EQ(config.getNumOfStates(), 2u);
-  EXPECT_EQ(config.getNumOfStatesMonthly(), 3u);
-  EXPECT_EQ(config.getCurrentHydrologicalStateType().getName(), "Sem");
   config.setXValues({0.7, 0.6});
   EXPECT_FALSE(config.isXValuesValid());
   EXPECT_THROW_TEXT(
@@ -228,9 +213,6 @@ TEST(PriorityReservoirSettings, ZoneEditsAreCheckedWithTheirTexts) {
   settings.addDefaultHydrologicalZone(year);
   settings.addDefaultHydrologicalZone(year);
   settings.initHydrologicalZoneMonthly(2, year);
-  EXPECT_EQ(settings.getVectorOfHydrologicalZones()[0].priority, 99u);
-  EXPECT_EQ(settings.getVectorOfHydrologicalZones()[0].serie->getValue(Date(2001, 5, 1)), 1.0);
-  EXPECT_EQ(settings.getNumberOfZonesMonthly(), 2u);
   settings.setValueOfHydrologicalZone(0.6, 0);
   settings.setValueOfHydrologicalZoneMonthly(0.6, 0, 11);
 

@@ -127,9 +127,8 @@ TEST_F(BadProjectFile, EachFlawHasItsMessage) {
 }
 
 // The rows of a priority scenario, its settings and its link add-ons: a missing key, a value of
-// the wrong type, or a value the model refuses, each with the loader's usual kind of failure.
+// the wrong type, or a list of the wrong length, each with the loader's usual kind of failure.
 TEST_F(BadProjectFile, EachFlawOfAPriorityProjectHasItsMessage) {
-  const std::string reservoirZones = "PriorityReservoirSettings::setValueOfHydrologicalZone";
   const std::string pumping = "JsonLoadLinkAddonPumping::load(): ";
   const std::string monthly = "JsonLoadSettingsPriorityReservoir::load(): ";
   const std::string firstMonth = "[{\"value\":0.50000000000000000,\"priority\":1}],";
@@ -149,11 +148,6 @@ TEST_F(BadProjectFile, EachFlawOfAPriorityProjectHasItsMessage) {
       bad("zone without its share",
           priorityGolden("{\"value\":0.25000000000000000,\"priority\":3}", "{\"priority\":3}"),
           required("value")),
-      bad("zone priority", priorityGolden("\"priority\":30}", "\"priority\":100}"),
-          "PriorityReservoirSettings::setPriorityOfHydrologicalZone(): priority > 99"),
-      bad("zone shares above the whole reservoir",
-          priorityGolden("{\"value\":0.75", "{\"value\":0.85"),
-          reservoirZones + "(): sum of values > 1.0"),
       bad("eleven months", priorityGolden(firstMonth, ""),
           monthly + "HydrologicalZonesMonthly must hold 12 months"),
       bad("a month without its zone",
@@ -162,12 +156,6 @@ TEST_F(BadProjectFile, EachFlawOfAPriorityProjectHasItsMessage) {
       bad("a month not a list",
           priorityGolden("[{\"value\":0.50000000000000000,\"priority\":2}]", "{}"),
           expected("a list", "an object")),
-      bad("monthly zone priority", priorityGolden("\"priority\":12}", "\"priority\":120}"),
-          "PriorityReservoirSettings::setPriorityOfHydrologicalZoneMonthly(): priority > 99"),
-      bad("monthly zone shares",
-          priorityGolden("{\"value\":0.50000000000000000,\"priority\":3}",
-                         "{\"value\":1.50000000000000000,\"priority\":3}"),
-          "PriorityReservoirSettings::setValueOfHydrologicalZoneMonthly(): sum of values > 1.0"),
       bad("demand priority as text",
           priorityGolden("\"priorities\":[1,7]", "\"priorities\":[1,\"7\"]"),
           expected("a whole number", "the text \"7\"")),

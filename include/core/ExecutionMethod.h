@@ -45,6 +45,11 @@ class ExecutionMethod {
   // Gives each enabled element one set of continuous result series over interval.
   static void createContinuousResults(const Elements& elements, const Interval& interval,
                                       ScenarioType scenarioType);
+  // Empty continuous result series for one more simulation of a search: those of the previous
+  // one emptied, keeping the room of their values, where every enabled element has them; new
+  // ones otherwise.
+  static void restartContinuousResults(const Elements& elements, const Interval& interval,
+                                       ScenarioType scenarioType);
   static void configureDrainDemands(const Elements& drains, const Interval& interval);
   // Rebuilds each reservoir's working table, unique in volume.
   static void configureReservoirsCav(const Elements& reservoirs);

@@ -42,6 +42,8 @@ class OperationSystem {
   virtual void postProcessing(const Callback& callback);
   // One period at the current date.
   virtual void runModel() = 0;
+  // Every period of runInterval in window 0, without progress: one whole simulation of a search.
+  void runInterval(const Interval& runInterval);
 
   // Writes flow as the link's "Vazão afluente" at the current date.
   void allocReleaseValue(const std::shared_ptr<Link>& link, double flow);

@@ -12,4 +12,10 @@ class OptimizationAlgorithmTypeNames {
   // Throws std::invalid_argument
   // "getOptimizationAlgorithmTypeByString(): Invalid optimization algorithm type" for another name.
   static OptimizationAlgorithmType typeOf(const std::string& name);
+  // The same for the swarm of a system guarantee curve; the text of the failure reads
+  // "getSystemGuaranteeCurveAlgorithmTypeByString(): Invalid optimization algorithm type".
+  static OptimizationAlgorithmType systemCurveTypeOf(const std::string& name);
+
+ private:
+  static OptimizationAlgorithmType typeOf(const std::string& name, const std::string& reader);
 };

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "common/Interval.h"
 #include "core/Element.h"
 #include "core/SettingsManager.h"
 
@@ -23,4 +24,7 @@ class OptimizationUtils {
   // differs from getNumOfDecisionVars, before any rule changes.
   static void setDecisionVars(const std::vector<double>& values, const Elements& elements,
                               const SettingsManager& settingsManager);
+  // The share of the periods of interval, %, in which reservoir released q within 1e-6 m³/s:
+  // the guarantee of a constant release q in the last simulation.
+  static double guaranteeOf(const Element& reservoir, double q, const Interval& interval);
 };

@@ -5,13 +5,13 @@
 #include <vector>
 
 #include "optimization/ExecutionOptimization.h"
-#include "scenario/RuleScenario.h"
+#include "optimization/SwarmScenario.h"
 
 // A search for the numbers of the reservoirs' optimisable rules: a rule simulation whose run is a
 // swarm of simulations. Its outcome is the front: one row of decision variables and one row of
 // objective values per solution. A new scenario minimises evaporation and failures with SMPSO,
 // one particle, one iteration and an archive of one.
-class RuleOptimizationScenario : public RuleScenario {
+class RuleOptimizationScenario : public SwarmScenario {
  public:
   using Matrix = std::vector<std::vector<double>>;
 
@@ -47,13 +47,6 @@ class RuleOptimizationScenario : public RuleScenario {
   std::shared_ptr<SceneryCheck> makeSceneryCheck() override;
 
  private:
-  void prepareExecution();
-  // One evaluator per thread of the execution, each on its own copy of this scenario; none for a
-  // single thread.
-  std::vector<ExecutionOptimization::Evaluator> makeEvaluators() const;
-  // Makes this copy ready to simulate candidates on its own.
-  void prepareAsEvaluator();
-
   Matrix matrixOfSolutions;
   Matrix matrixOfObjectiveFunctionsValues;
   std::string resultsFolder;

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <string>
 
 #include "optimization/ExecutionOptimization.h"
 #include "project/JsonLoadExecutionMethod.h"
@@ -15,11 +16,15 @@ class JsonLoadExecutionOptimization : public JsonLoadExecutionMethod {
  public:
   JsonLoadExecutionOptimization();
 
+  // Reads "OptAlgorithm" of object into method: its "type", named as typeOf knows it, and the
+  // parameters of that type.
+  static void loadAlgorithm(const nlohmann::json& object, SwarmExecution& method,
+                            OptimizationAlgorithmType (*typeOf)(const std::string&));
+
  protected:
   std::shared_ptr<ExecutionMethod> makeInstance(const Interval& interval) const override;
   void loadSpecific(const nlohmann::json& object, ExecutionMethod& method) const override;
 
  private:
   static void loadObjectiveFunctions(const nlohmann::json& object, ExecutionOptimization& method);
-  static void loadAlgorithm(const nlohmann::json& object, ExecutionOptimization& method);
 };

@@ -2,7 +2,8 @@
 
 #include "project/JsonSaveScenario.h"
 
-// Writes a guarantee-curve scenario: the common keys only; the curve is the method's.
+// Writes a guarantee-curve scenario, of a reservoir or of a system: the common keys only; the
+// curve is the method's.
 class JsonSaveGuaranteeCurveScenery : public JsonSaveScenario {
  public:
   using JsonSaveScenario::JsonSaveScenario;

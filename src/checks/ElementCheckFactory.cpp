@@ -54,6 +54,7 @@ const std::map<KeySettings, Maker>& makers() {
     addRuleMakers(result, ScenarioType::ruleSimulator);
     addRuleMakers(result, ScenarioType::ruleOptimizer);
     addRuleMakers(result, ScenarioType::guaranteeCurve);
+    addRuleMakers(result, ScenarioType::systemGuaranteeCurve);
     return result;
   }();
   return table;

@@ -1,5 +1,6 @@
 #include "core/ExecutionMethod.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "common/Calendar.h"
@@ -68,6 +69,24 @@ void ExecutionMethod::createContinuousResults(const Elements& elements, const In
     for (const auto& serie : element->getOutputSeries().front()->makeVectorOfSeries()) {
       serie->reserve(interval.period());
     }
+  }
+}
+
+void ExecutionMethod::restartContinuousResults(const Elements& elements, const Interval& interval,
+                                               ScenarioType scenarioType) {
+  const bool made = std::all_of(elements.begin(), elements.end(), [](const auto& element) {
+    return !element->isEnabled() || element->getOutputSeries().size() == 1;
+  });
+  if (!made) {
+    createContinuousResults(elements, interval, scenarioType);
+    return;
+  }
+  for (const auto& element : elements) {
+    if (!element->isEnabled()) continue;
+    for (const auto& serie : element->getOutputSeries().front()->makeVectorOfSeries()) {
+      serie->clear();
+    }
+    element->setIntervalSeries(interval);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "common/Calendar.h"
 #include "core/ElementsFilter.h"
 #include "core/NetworkUtils.h"
 #include "operation/ResultsWriterFactory.h"
@@ -15,6 +16,16 @@ OperationSystem::OperationSystem(const SettingsManager& settingsManager, const E
       zeroContribution(zeroContribution),
       scenarioType(scenarioType),
       hasBidirectionalLink(anyBidirectional(elements)) {}
+
+void OperationSystem::runInterval(const Interval& runInterval) {
+  setWindowIndex(0);
+  Date at = runInterval.getBegin();
+  while (at <= runInterval.getEnd()) {
+    setDate(at);
+    runModel();
+    at += Calendar::incInterval(at, runInterval);
+  }
+}
 
 bool OperationSystem::anyBidirectional(const Elements& elements) {
   const auto links = ElementsFilter::filterByEnabledLinks(elements);

@@ -5,15 +5,14 @@
 #include <limits>
 #include <stdexcept>
 
-#include "common/Calendar.h"
 #include "common/NumericalUtils.h"
-#include "common/PeriodWalker.h"
 #include "core/ElementSets.h"
 #include "core/ElementsFilter.h"
 #include "core/KOVACoreProgressBar.h"
 #include "core/NetworkUtils.h"
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "operation/OperationSystem.h"
+#include "optimization/OptimizationUtils.h"
 #include "rules/ConstReleaseRule.h"
 
 namespace {
@@ -234,15 +233,8 @@ ExecutionGuaranteeCurve::ReservoirStr ExecutionGuaranteeCurve::trial(const Eleme
                                                                      const ConstReleaseRule& rule,
                                                                      double target) const {
   const double q = rule.getRelease();
-  const auto& released = reservoir.getOutputSerie(SerieType::releasedFlow, 0);
-  unsigned int periods = 0;
-  unsigned int successes = 0;
-  PeriodWalker::forEach(interval, [&](const Date& date) {
-    ++periods;
-    if (std::fabs(q - released->getValue(date)) <= kTolerance) ++successes;
-  });
   ReservoirStr entry;
-  entry.guarantee = periods == 0 ? 0.0 : successes * 100.0 / periods;
+  entry.guarantee = OptimizationUtils::guaranteeOf(reservoir, q, interval);
   if (NumericalUtils::subtractDoubles(entry.guarantee, target, kTolerance) >= 0.0) {
     entry.found = true;
     entry.q = q;
@@ -252,14 +244,8 @@ ExecutionGuaranteeCurve::ReservoirStr ExecutionGuaranteeCurve::trial(const Eleme
 
 void ExecutionGuaranteeCurve::simulate() {
   ++simulations;
-  createResults(elements, interval, scenarioType);
-  operationSystem->setWindowIndex(0);
-  Date date = interval.getBegin();
-  while (date <= interval.getEnd()) {
-    operationSystem->setDate(date);
-    operationSystem->runModel();
-    date += Calendar::incInterval(date, interval);
-  }
+  restartContinuousResults(elements, interval, scenarioType.getType());
+  operationSystem->runInterval(interval);
 }
 
 std::shared_ptr<ExecutionMethod> ExecutionGuaranteeCurve::copySpecific() const {

@@ -21,9 +21,18 @@ const std::string& OptimizationAlgorithmTypeNames::nameOf(OptimizationAlgorithmT
 }
 
 OptimizationAlgorithmType OptimizationAlgorithmTypeNames::typeOf(const std::string& name) {
+  return typeOf(name, "getOptimizationAlgorithmTypeByString");
+}
+
+OptimizationAlgorithmType OptimizationAlgorithmTypeNames::systemCurveTypeOf(
+    const std::string& name) {
+  return typeOf(name, "getSystemGuaranteeCurveAlgorithmTypeByString");
+}
+
+OptimizationAlgorithmType OptimizationAlgorithmTypeNames::typeOf(const std::string& name,
+                                                                 const std::string& reader) {
   for (const auto& [type, text] : names()) {
     if (text == name) return type;
   }
-  throw std::invalid_argument(
-      "getOptimizationAlgorithmTypeByString(): Invalid optimization algorithm type");
+  throw std::invalid_argument(reader + "(): Invalid optimization algorithm type");
 }

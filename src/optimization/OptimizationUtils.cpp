@@ -1,12 +1,16 @@
 #include "optimization/OptimizationUtils.h"
 
+#include <cmath>
 #include <stdexcept>
 
+#include "common/PeriodWalker.h"
 #include "core/ReservoirRuleSettings.h"
 #include "optimization/kernel/XReal.h"
 #include "rules/OptReleaseRule.h"
 
 namespace {
+
+constexpr double kReleaseTolerance = 1e-6;  // m³/s
 
 std::shared_ptr<OptReleaseRule> optRuleOf(const std::shared_ptr<Element>& element,
                                           const SettingsManager& settingsManager) {
@@ -51,4 +55,16 @@ void OptimizationUtils::setDecisionVars(const std::vector<double>& values,
     rule->setDecisionVars(std::vector<double>(next, end));
     next = end;
   }
+}
+
+double OptimizationUtils::guaranteeOf(const Element& reservoir, double q,
+                                      const Interval& interval) {
+  const auto& released = reservoir.getOutputSerie(SerieType::releasedFlow, 0);
+  unsigned int periods = 0;
+  unsigned int successes = 0;
+  PeriodWalker::forEach(interval, [&](const Date& date) {
+    ++periods;
+    if (std::fabs(q - released->getValue(date)) <= kReleaseTolerance) ++successes;
+  });
+  return periods == 0 ? 0.0 : successes * 100.0 / periods;
 }

@@ -4,7 +4,6 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "core/ElementsFilter.h"
 #include "optimization/RuleOptimizationSceneryCheck.h"
 #include "scenario/ScenarioManager.h"
 #include "vocabulary/Vocabulary.h"
@@ -31,7 +30,7 @@ RuleOptimizationScenario::RuleOptimizationScenario(unsigned int id, const Interv
 RuleOptimizationScenario::RuleOptimizationScenario(
     const std::shared_ptr<ExecutionOptimization>& method, unsigned int id, const Interval& interval,
     const std::string& name)
-    : RuleScenario(method, id, interval, name) {}
+    : SwarmScenario(method, id, interval, name) {}
 
 Enum<ScenarioType> RuleOptimizationScenario::getScenarioType() const {
   return Vocabulary::of(ScenarioType::ruleOptimizer);
@@ -52,20 +51,18 @@ void RuleOptimizationScenario::addMaximizeObjectiveFunction(ObjectiveFunctionTyp
 }
 
 bool RuleOptimizationScenario::run(const Progress& progress) {
-  prepareExecution();
+  // The objective functions read the scenario they belong to as the manager's current one.
   auto& manager = ScenarioManager::getInstance();
   const auto previous = manager.getCurrentScenario();
   manager.setCurrentScenario(shared_from_this());
   bool finished = false;
   try {
-    finished = RuleScenario::run(progress);
+    finished = runSwarm(progress);
   } catch (...) {
     manager.setCurrentScenario(previous);
-    getExecutionOptimization().setEvaluators({});
     throw;
   }
   manager.setCurrentScenario(previous);
-  getExecutionOptimization().setEvaluators({});
   const auto& algorithm = *getExecutionOptimization().getOptimizationAlgorithm();
   if (finished) {
     setOptimizationResults(algorithm.makeMatrixOfSolutions(),
@@ -75,37 +72,6 @@ bool RuleOptimizationScenario::run(const Progress& progress) {
     getExecutionOptimization().getOptimizationAlgorithm()->initialize();
   }
   return finished;
-}
-
-void RuleOptimizationScenario::prepareExecution() {
-  auto& execution = getExecutionOptimization();
-  execution.setElements(getElements());
-  execution.setSettingsManager(&getSettingsManager());
-  execution.setEvaluators(makeEvaluators());
-  execution.reconfigureAlgorithm();
-}
-
-std::vector<ExecutionOptimization::Evaluator> RuleOptimizationScenario::makeEvaluators() const {
-  std::vector<ExecutionOptimization::Evaluator> evaluators;
-  const unsigned int threads = getExecutionOptimization().getThreads();
-  if (threads < 2) return evaluators;
-  for (unsigned int k = 0; k < threads; ++k) {
-    const auto copy = std::static_pointer_cast<RuleOptimizationScenario>(this->copy());
-    copy->prepareAsEvaluator();
-    evaluators.push_back([copy](const std::vector<double>& candidate) {
-      return copy->getExecutionOptimization().simulate(candidate);
-    });
-  }
-  return evaluators;
-}
-
-void RuleOptimizationScenario::prepareAsEvaluator() {
-  preRun();
-  ExecutionMethod::configureLinkAddonPumping(ElementsFilter::filterByEnabledLinks(getElements()));
-  auto& execution = getExecutionOptimization();
-  execution.setElements(getElements());
-  execution.setSettingsManager(&getSettingsManager());
-  execution.prepareSimulation(getOperationSystem(), getInterval(), getScenarioType());
 }
 
 void RuleOptimizationScenario::setOptimizationResults(const Matrix& solutions,

@@ -4,6 +4,7 @@
 
 #include "project/JsonLoadExecutionGuaranteeCurve.h"
 #include "project/JsonLoadExecutionOptimization.h"
+#include "project/JsonLoadExecutionSystemGuaranteeCurve.h"
 #include "project/JsonMakerTable.h"
 #include "vocabulary/Vocabulary.h"
 
@@ -32,6 +33,8 @@ const JsonMakerTable<Maker>& makers() {
            makeReader<JsonLoadExecutionOptimization>},
           {Vocabulary::of(ExecutionType::guaranteeCurve).getName(),
            makeReader<JsonLoadExecutionGuaranteeCurve>},
+          {Vocabulary::of(ExecutionType::systemGuaranteeCurve).getName(),
+           makeReader<JsonLoadExecutionSystemGuaranteeCurve>},
       },
       "JsonLoadExecutionMethodFactory::make(): invalid ExecutionType");
   return table;

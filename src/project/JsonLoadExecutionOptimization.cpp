@@ -23,7 +23,7 @@ void JsonLoadExecutionOptimization::loadSpecific(const json& object,
   if (found && !Helper::asArray(personalized).empty()) {
     Helper::refuse(personalized, "an empty list (functions by expression are not read yet)");
   }
-  loadAlgorithm(Helper::findRequired(object, "OptAlgorithm"), optimization);
+  loadAlgorithm(object, optimization, OptimizationAlgorithmTypeNames::typeOf);
 }
 
 void JsonLoadExecutionOptimization::loadObjectiveFunctions(const json& object,
@@ -38,11 +38,13 @@ void JsonLoadExecutionOptimization::loadObjectiveFunctions(const json& object,
   }
 }
 
-void JsonLoadExecutionOptimization::loadAlgorithm(const json& object,
-                                                  ExecutionOptimization& method) {
-  const json& name = Helper::findRequired(object, "type");
-  const OptimizationAlgorithmType type = Helper::at(
-      name, [&] { return OptimizationAlgorithmTypeNames::typeOf(Helper::get<std::string>(name)); });
-  const auto parameters = JsonLoadOptAlgorithmFactory::make(type)->load(object);
-  Helper::at(object, [&] { method.setAlgorithm(type, parameters); });
+void JsonLoadExecutionOptimization::loadAlgorithm(
+    const json& object, SwarmExecution& method,
+    OptimizationAlgorithmType (*typeOf)(const std::string&)) {
+  const json& algorithm = Helper::findRequired(object, "OptAlgorithm");
+  const json& name = Helper::findRequired(algorithm, "type");
+  const OptimizationAlgorithmType type =
+      Helper::at(name, [&] { return typeOf(Helper::get<std::string>(name)); });
+  const auto parameters = JsonLoadOptAlgorithmFactory::make(type)->load(algorithm);
+  Helper::at(algorithm, [&] { method.setAlgorithm(type, parameters); });
 }

@@ -6,6 +6,7 @@
 #include "project/JsonLoadOptRuleScenario.h"
 #include "project/JsonLoadPriorityScenario.h"
 #include "project/JsonLoadRuleScenario.h"
+#include "project/JsonLoadSystemGuaranteeCurveScenario.h"
 #include "project/JsonMakerTable.h"
 #include "vocabulary/Vocabulary.h"
 
@@ -24,6 +25,8 @@ const JsonMakerTable<Maker>& makers() {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeReader<JsonLoadRuleScenario>},
           {Vocabulary::of(ScenarioType::guaranteeCurve).getName(),
            makeReader<JsonLoadGuaranteeCurveScenario>},
+          {Vocabulary::of(ScenarioType::systemGuaranteeCurve).getName(),
+           makeReader<JsonLoadSystemGuaranteeCurveScenario>},
           {Vocabulary::of(ScenarioType::ruleOptimizer).getName(),
            makeReader<JsonLoadOptRuleScenario>},
           {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),

@@ -32,8 +32,8 @@ Key keyOf(ScenarioType scenario, ElementType element) {
 std::map<Key, Maker> rows() {
   using E = ElementType;
   std::map<Key, Maker> rows;
-  for (ScenarioType rules :
-       {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer, ScenarioType::guaranteeCurve}) {
+  for (ScenarioType rules : {ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer,
+                             ScenarioType::guaranteeCurve, ScenarioType::systemGuaranteeCurve}) {
     const bool curve = rules == ScenarioType::guaranteeCurve;
     rows.emplace(keyOf(rules, E::reservoir),
                  curve ? makeReader<JsonLoadSettingsGuaranteeCurveReservoir>

@@ -5,6 +5,7 @@
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveExecutionGuaranteeCurve.h"
 #include "project/JsonSaveExecutionOptimization.h"
+#include "project/JsonSaveExecutionSystemGuaranteeCurve.h"
 #include "vocabulary/Vocabulary.h"
 
 namespace {
@@ -22,6 +23,11 @@ std::shared_ptr<JsonSaveExecutionMethod> makeGuaranteeCurve(
   return std::make_shared<JsonSaveExecutionGuaranteeCurve>(method);
 }
 
+std::shared_ptr<JsonSaveExecutionMethod> makeSystemGuaranteeCurve(
+    const std::shared_ptr<ExecutionMethod>& method) {
+  return std::make_shared<JsonSaveExecutionSystemGuaranteeCurve>(method);
+}
+
 std::shared_ptr<JsonSaveExecutionMethod> makeOptimization(
     const std::shared_ptr<ExecutionMethod>& method) {
   return std::make_shared<JsonSaveExecutionOptimization>(method);
@@ -34,6 +40,7 @@ const JsonMakerTable<Maker>& makers() {
           {Vocabulary::of(ExecutionType::windowed).getName(), makeCommonOnly},
           {Vocabulary::of(ExecutionType::optimization).getName(), makeOptimization},
           {Vocabulary::of(ExecutionType::guaranteeCurve).getName(), makeGuaranteeCurve},
+          {Vocabulary::of(ExecutionType::systemGuaranteeCurve).getName(), makeSystemGuaranteeCurve},
       },
       "JsonSaveExecutionMethodFactory::make(): invalid ExecutionType");
   return table;

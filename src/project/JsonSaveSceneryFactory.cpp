@@ -24,6 +24,8 @@ const JsonMakerTable<Maker>& makers() {
           {Vocabulary::of(ScenarioType::ruleSimulator).getName(), makeWriter<JsonSaveRuleScenery>},
           {Vocabulary::of(ScenarioType::guaranteeCurve).getName(),
            makeWriter<JsonSaveGuaranteeCurveScenery>},
+          {Vocabulary::of(ScenarioType::systemGuaranteeCurve).getName(),
+           makeWriter<JsonSaveGuaranteeCurveScenery>},
           {Vocabulary::of(ScenarioType::ruleOptimizer).getName(),
            makeWriter<JsonSaveOptRuleScenery>},
           {Vocabulary::of(ScenarioType::priorityOptimizer).getName(),

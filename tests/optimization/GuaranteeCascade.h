@@ -7,6 +7,7 @@
 #include "common/PeriodWalker.h"
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "optimization/GuaranteeCurveScenario.h"
+#include "optimization/SystemGuaranteeCurveScenario.h"
 #include "rules/ConstReleaseRule.h"
 #include "support/NetworkBuilder.h"
 
@@ -16,10 +17,12 @@ inline constexpr double kUnit = 0.0864;  // hm³: 1 m³/s over one day
 
 // Reservoirs in series, each on its own inflows, the last one into a drain; every reservoir is
 // marked for the curve unless told otherwise. Volumes are in units of 1 m³/s·day, no losses.
-struct Cascade {
-  Cascade(const Interval& interval, const std::vector<std::vector<double>>& inflows,
-          double capacity)
-      : scenario(std::make_shared<GuaranteeCurveScenario>(1, interval, "Curva")), net(scenario) {
+// The reservoirs start on a constant release of 7.
+template <class CurveScenario>
+struct BasicCascade {
+  BasicCascade(const Interval& interval, const std::vector<std::vector<double>>& inflows,
+               double capacity)
+      : scenario(std::make_shared<CurveScenario>(1, interval, "Curva")), net(scenario) {
     std::shared_ptr<Node> previous;
     for (const auto& cycle : inflows) {
       auto reservoir = std::static_pointer_cast<Reservoir>(net.node(ElementType::reservoir));
@@ -59,11 +62,12 @@ struct Cascade {
   }
 
   ExecutionGuaranteeCurve& curve() { return scenario->getExecutionGuaranteeCurve(); }
+  ExecutionSystemGuaranteeCurve& system() { return scenario->getExecutionSystemGuaranteeCurve(); }
 
   // The share of periods (%) in which each reservoir delivers its release when they hold the
   // releases given, computed by a plain rule simulation of the same network.
   std::vector<double> guarantees(const std::vector<double>& releases) {
-    auto copy = std::static_pointer_cast<GuaranteeCurveScenario>(scenario->copy());
+    const auto copy = scenario->copy();
     std::vector<std::shared_ptr<Element>> copies;
     for (std::size_t i = 0; i < releases.size(); ++i) {
       copies.push_back(copy->getElement(reservoirs[i]->getId()));
@@ -91,10 +95,13 @@ struct Cascade {
     return shares;
   }
 
-  std::shared_ptr<GuaranteeCurveScenario> scenario;
+  std::shared_ptr<CurveScenario> scenario;
   NetworkBuilder net;
   std::vector<std::shared_ptr<Element>> reservoirs;
 };
+
+using Cascade = BasicCascade<GuaranteeCurveScenario>;
+using SystemCascade = BasicCascade<SystemGuaranteeCurveScenario>;
 
 // 36 days of the textbook record: a yield of 3.5 needs exactly the 7.5 units of storage.
 inline const Interval kDays(Date(2001, 1, 1), Date(2001, 2, 5), Vocabulary::of(Periodicity::daily));

@@ -37,6 +37,9 @@ class JsonLoadScenario {
                                                 const std::string& name) const = 0;
 
  private:
+  // Refuses at methodType a method that the kind of scenario named by object's "type" does not
+  // run, before a scenario of that kind is made around it.
+  static void checkMethodFitsKind(const nlohmann::json& object, const nlohmann::json& methodType);
   void loadElements(const nlohmann::json& object, const std::shared_ptr<Scenario>& scenario);
   // Reads each node item into a new node with its reader kept in loaders. Throws
   // JsonLoadException for an item without its wrapper, element or type.

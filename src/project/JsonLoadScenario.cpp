@@ -1,12 +1,15 @@
 #include "project/JsonLoadScenario.h"
 
+#include <algorithm>
 #include <map>
+#include <string>
 #include <vector>
 
 #include "project/JsonLoadElementFactory.h"
 #include "project/JsonLoadExecutionMethodFactory.h"
 #include "project/JsonLoadHelper.h"
 #include "project/JsonLoadInterval.h"
+#include "vocabulary/Vocabulary.h"
 
 using json = nlohmann::json;
 using Helper = JsonLoadHelper;
@@ -20,6 +23,7 @@ std::shared_ptr<Scenario> JsonLoadScenario::load(const json& object) {
   const auto methodLoader = Helper::known(
       methodType, "an execution method this program reads",
       [&] { return JsonLoadExecutionMethodFactory::make(Helper::get<std::string>(methodType)); });
+  checkMethodFitsKind(object, methodType);
   const json& methodObject = Helper::asObject(Helper::findRequired(object, "ExecutionMethod"));
   const std::shared_ptr<ExecutionMethod> method =
       Helper::at(methodObject, [&] { return methodLoader->load(methodObject, interval); });
@@ -35,6 +39,21 @@ std::shared_ptr<Scenario> JsonLoadScenario::load(const json& object) {
   specificLoad(object, *scenario);
   scenario->resolveRuleReferences();
   return scenario;
+}
+
+void JsonLoadScenario::checkMethodFitsKind(const json& object, const json& methodType) {
+  const auto* kind = Vocabulary::scenarioTypes().findByName(
+      Helper::get<std::string>(Helper::findRequired(object, "type")));
+  const auto* method =
+      Vocabulary::executionTypes().findByName(Helper::get<std::string>(methodType));
+  if (!kind || !method) return;
+  const auto& fitting = Vocabulary::executionTypesOf(kind->getType());
+  if (std::find(fitting.begin(), fitting.end(), method->getType()) != fitting.end()) return;
+  std::string names;
+  for (ExecutionType type : fitting) {
+    names += (names.empty() ? "" : " or ") + ("\"" + Vocabulary::of(type).getName() + "\"");
+  }
+  Helper::refuse(methodType, "the method of a \"" + kind->getName() + "\" scenario: " + names);
 }
 
 void JsonLoadScenario::loadElements(const json& object, const std::shared_ptr<Scenario>& scenario) {

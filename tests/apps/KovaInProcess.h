@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -20,4 +21,9 @@ inline Outcome kova(const std::vector<std::string>& args) {
   Console console{out, err, false};
   const int status = KovaApp::run(args, console);
   return {status, out.str(), err.str()};
+}
+
+// How many lines a text kova printed holds.
+inline std::size_t linesOf(const std::string& text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }

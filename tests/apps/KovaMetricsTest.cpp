@@ -17,10 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::size_t linesOf(const std::string& text) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-}
-
 const std::string kWindowed = "Janelas a partir do armazenamento atual";
 
 // The demo project over 1931-1933, every scenario run and stored once for the whole suite.

@@ -24,3 +24,6 @@ echo "== Otimização das regras"
 echo
 echo "== Curva de garantia"
 "$kova" curve "$project" --scenario "Curva de garantia"
+echo
+echo "== Curva de garantia do sistema"
+"$kova" curve "$project" --scenario "Curva de garantia do sistema"

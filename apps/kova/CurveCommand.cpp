@@ -4,7 +4,7 @@
 #include "ExitStatus.h"
 #include "MetricsTable.h"
 #include "OpenProject.h"
-#include "optimization/GuaranteeCurveScenario.h"
+#include "core/Scenario.h"
 
 Command CurveCommand::describe() {
   return {"curve",
@@ -12,7 +12,8 @@ Command CurveCommand::describe() {
           "the stored guarantee curve of a scenario",
           "Prints the guarantee curve that the latest run of the scenario stored in the project:\n"
           "one row per level of guarantee (%) that every reservoir of the curve reached, with the\n"
-          "constant release (m³/s) of each, the row number being the one 'kova solution' takes.\n"
+          "constant release (m³/s) of each, the row number being the one 'kova solution' takes;\n"
+          "for the curve of a system, the flow of its out reservoir at each level.\n"
           "The table marks Q90; csv has the header 'guarantee' and one column per reservoir,\n"
           "releases in 17 significant digits; json is an array of {\"guarantee\", \"releases\":\n"
           "{\"<reservoir>\": q}}. The levels asked that have no row go to standard error.\n"
@@ -25,7 +26,7 @@ int CurveCommand::run(const CommandLine& line, Console& console) {
   const auto format = MetricsTable::formatNamed(line.value("format", "table"));
   OpenProject project(line.positional(0));
   const auto scenario = project.scenario(line.required("scenario"));
-  const CurveTable curve(CurveTable::curveOf(*scenario));
+  const CurveTable curve = CurveTable::of(*scenario);
   if (curve.empty()) {
     console.err << "kova curve: scenario \"" << scenario->getName()
                 << "\" has no stored curve; run it with 'kova run'\n";

@@ -7,6 +7,7 @@
 #include "TextColumns.h"
 #include "common/NumericalUtils.h"
 #include "optimization/GuaranteeCurveScenario.h"
+#include "optimization/SystemGuaranteeCurveScenario.h"
 
 namespace {
 
@@ -16,14 +17,17 @@ bool isQ90(double level) { return NumericalUtils::compareDoubles(level, kQ90, 1e
 
 }  // namespace
 
-GuaranteeCurveScenario& CurveTable::curveOf(Scenario& scenario) {
-  auto* curve = dynamic_cast<GuaranteeCurveScenario*>(&scenario);
-  if (!curve) {
-    throw std::runtime_error("scenario \"" + scenario.getName() + "\" is a \"" +
-                             scenario.getScenarioType().getName() +
-                             "\" scenario, not a guarantee curve (\"Curva de garantia\")");
+CurveTable CurveTable::of(const Scenario& scenario) {
+  if (const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(&scenario)) {
+    return CurveTable(*curve);
   }
-  return *curve;
+  if (const auto* system = dynamic_cast<const SystemGuaranteeCurveScenario*>(&scenario)) {
+    return CurveTable(*system);
+  }
+  throw std::runtime_error("scenario \"" + scenario.getName() + "\" is a \"" +
+                           scenario.getScenarioType().getName() +
+                           "\" scenario, not a guarantee curve (\"Curva de garantia\" or "
+                           "\"Curva de garantia do sistema\")");
 }
 
 CurveTable::CurveTable(const GuaranteeCurveScenario& scenario) {
@@ -32,8 +36,26 @@ CurveTable::CurveTable(const GuaranteeCurveScenario& scenario) {
   for (unsigned int id : curve.reservoirIds) names.push_back(scenario.getElement(id)->getName());
   levels = curve.guarantees;
   releases = curve.values;
-  const std::vector<double> asked =
-      execution.isOnlyQ90() ? std::vector<double>{kQ90} : execution.getGuaranteeValues();
+  findMissing(execution.isOnlyQ90() ? std::vector<double>{kQ90} : execution.getGuaranteeValues());
+  for (const auto& [id, name] : execution.getReservoirFailMap()) failed.push_back(name);
+}
+
+CurveTable::CurveTable(const SystemGuaranteeCurveScenario& scenario) {
+  const auto& execution = scenario.getExecutionSystemGuaranteeCurve();
+  const auto& curve = execution.getSystemGuaranteeCurveStr();
+  const unsigned int id = execution.getOutSystemReservoirId();
+  const auto& elements = scenario.getElements();
+  const auto out = std::find_if(elements.begin(), elements.end(),
+                                [id](const auto& element) { return element->getId() == id; });
+  // A file may name an out reservoir that is not there, which the checks report before a run.
+  names.push_back(out != elements.end() ? (*out)->getName() : "#" + std::to_string(id));
+  levels = curve.guarantees;
+  for (double q : curve.guaranteeCurveValues) releases.push_back({q});
+  findMissing(execution.isOnlyQ90() ? std::vector<double>{kQ90}
+                                    : ExecutionSystemGuaranteeCurve::getGuaranteeValues());
+}
+
+void CurveTable::findMissing(const std::vector<double>& asked) {
   for (double level : asked) {
     if (std::none_of(levels.begin(), levels.end(), [&](double found) {
           return NumericalUtils::compareDoubles(found, level, 1e-6);
@@ -41,7 +63,6 @@ CurveTable::CurveTable(const GuaranteeCurveScenario& scenario) {
       missing.push_back(level);
     }
   }
-  for (const auto& [id, name] : execution.getReservoirFailMap()) failed.push_back(name);
 }
 
 void CurveTable::printTable(std::ostream& out) const {

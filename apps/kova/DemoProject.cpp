@@ -19,8 +19,10 @@
 #include "operation/ExecutionMethodFactoryByType.h"
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
+#include "optimization/SystemGuaranteeCurveScenario.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
+#include "rules/OptConstReleaseRule.h"
 #include "rules/OptHydrologicalStateReleaseRule.h"
 #include "rules/OptVolDepOneStaticReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
@@ -45,6 +47,9 @@ constexpr std::uint32_t kIterations = 15;
 // The levels of the guarantee curve, %, and the trials of each lake at each level.
 const std::vector<double> kCurveLevels = {50, 80, 90, 95, 100};
 constexpr std::uint32_t kCurveIterations = 15;
+constexpr std::uint32_t kSystemSwarm = 6;
+constexpr std::uint32_t kSystemIterations = 3;
+constexpr double kSystemMostFlow = 3000.0;  // m³/s
 
 // The data files, read once.
 struct DemoData {
@@ -391,38 +396,47 @@ Network addNetwork(const DemoData& data, const std::shared_ptr<Scenario>& scenar
   return NetworkMaker(data, scenario).make();
 }
 
+void setRule(const std::shared_ptr<Scenario>& scenario, const ReservoirPtr& reservoir,
+             const std::shared_ptr<ReleaseRule>& rule) {
+  Scenario::getSettings<ReservoirRuleSettings>(reservoir, scenario->getSettingsManager())
+      ->setRule(rule);
+}
+
+// Steps of release by the reservoir's own storage whose limits stay and whose releases a swarm
+// chooses up to most.
+void releaseByOwnStorage(const std::shared_ptr<Scenario>& scenario, const ReservoirPtr& reservoir,
+                         const std::vector<VolDepOneReleaseStruct>& steps, double most) {
+  auto rule = std::make_shared<OptVolDepOneStaticReleaseRule>();
+  rule->setReservoirDependency(reservoir);
+  rule->setVectorOfVolDepOneReleaseStruct(steps);
+  auto marked = steps;
+  for (auto& step : marked) step.releases = {OptReleaseRule::kDecisionMark};
+  rule->setToOptVectorOfVolDepOneReleaseStruct(marked);
+  rule->setMaxRelease(most);
+  setRule(scenario, reservoir, rule);
+}
+
+// Três Marias by its own storage and Sobradinho by the storage of the system, with releases a
+// swarm chooses.
+void leaveUpperLakesToTheSwarm(const std::shared_ptr<Scenario>& scenario, const Network& n) {
+  constexpr double mark = OptReleaseRule::kDecisionMark;
+  releaseByOwnStorage(scenario, n.tresMarias, {{30, {300}}, {70, {500}}, {100, {800}}}, 1200.0);
+  auto bySystem = std::make_shared<OptHydrologicalStateReleaseRule>();
+  bySystem->setReservoirsOfSystem({n.tresMarias, n.sobradinho});
+  bySystem->setStates(3, {0.25, 0.6}, {550, 1400, 2200});
+  bySystem->setOptStates({0.25, 0.6}, {mark, mark, mark}, {80.0, 90.0, 95.0});
+  bySystem->setMaxRelease(3000.0);
+  setRule(scenario, n.sobradinho, bySystem);
+}
+
 // The operating rules of the rule scenario, but the releases of the three big lakes are left to
 // a swarm that weighs the consumers' deficit against the water the lakes spill: the steps of
 // Três Marias and Itaparica by their own storage, and those of Sobradinho by the storage of the
 // system, keep their limits and let the swarm choose their releases up to a maximum.
 void leaveReleasesToTheSwarm(const std::shared_ptr<RuleOptimizationScenario>& scenario,
                              const Network& n) {
-  constexpr double mark = OptReleaseRule::kDecisionMark;
-  const auto setRule = [&](const ReservoirPtr& reservoir,
-                           const std::shared_ptr<ReleaseRule>& rule) {
-    Scenario::getSettings<ReservoirRuleSettings>(reservoir, scenario->getSettingsManager())
-        ->setRule(rule);
-  };
-  const auto byOwnStorage = [&](const ReservoirPtr& reservoir,
-                                const std::vector<VolDepOneReleaseStruct>& steps, double most) {
-    auto rule = std::make_shared<OptVolDepOneStaticReleaseRule>();
-    rule->setReservoirDependency(reservoir);
-    rule->setVectorOfVolDepOneReleaseStruct(steps);
-    auto marked = steps;
-    for (auto& step : marked) step.releases = {mark};
-    rule->setToOptVectorOfVolDepOneReleaseStruct(marked);
-    rule->setMaxRelease(most);
-    setRule(reservoir, rule);
-  };
-  byOwnStorage(n.tresMarias, {{30, {300}}, {70, {500}}, {100, {800}}}, 1200.0);
-  byOwnStorage(n.itaparica, {{20, {700}}, {60, {1350}}, {100, {2100}}}, 3000.0);
-
-  auto bySystem = std::make_shared<OptHydrologicalStateReleaseRule>();
-  bySystem->setReservoirsOfSystem({n.tresMarias, n.sobradinho});
-  bySystem->setStates(3, {0.25, 0.6}, {550, 1400, 2200});
-  bySystem->setOptStates({0.25, 0.6}, {mark, mark, mark}, {80.0, 90.0, 95.0});
-  bySystem->setMaxRelease(3000.0);
-  setRule(n.sobradinho, bySystem);
+  leaveUpperLakesToTheSwarm(scenario, n);
+  releaseByOwnStorage(scenario, n.itaparica, {{20, {700}}, {60, {1350}}, {100, {2100}}}, 3000.0);
 
   auto& execution = scenario->getExecutionOptimization();
   execution.cleanObjectiveFunctions();
@@ -449,6 +463,22 @@ void askForTheCurve(const std::shared_ptr<GuaranteeCurveScenario>& scenario, con
   auto& curve = scenario->getExecutionGuaranteeCurve();
   curve.setGuaranteeValues(kCurveLevels);
   curve.setNumberOfIterations(kCurveIterations);
+}
+
+// The constant flow that Itaparica, the last lake, sustains at each level of guarantee while a
+// swarm per level adjusts the releases of Três Marias and Sobradinho upstream.
+void askForTheSystemCurve(const std::shared_ptr<SystemGuaranteeCurveScenario>& scenario,
+                          const Network& n) {
+  leaveUpperLakesToTheSwarm(scenario, n);
+  auto outflow = std::make_shared<OptConstReleaseRule>();
+  outflow->setLowerAndUpperRelease(0.0, kSystemMostFlow);
+  outflow->setToOpt(true);
+  setRule(scenario, n.itaparica, outflow);
+  auto& curve = scenario->getExecutionSystemGuaranteeCurve();
+  curve.setOutSystemReservoirId(n.itaparica->getId());
+  auto& parameters = static_cast<PSOParameters&>(*curve.getAlgorithmParameters());
+  parameters.swarmSize = kSystemSwarm;
+  parameters.maxIterations = kSystemIterations;
 }
 
 // The storage at the end of the record, where the rule simulation left it.
@@ -505,7 +535,13 @@ std::vector<std::shared_ptr<Scenario>> DemoProject::makeScenarios(
   const Network curveNetwork = addNetwork(data, curve);
   RuleSettingsMaker(curve, curveNetwork).apply();
   askForTheCurve(curve, curveNetwork);
-  return {rules, priorities, windows, optimisation, curve};
+
+  auto system =
+      std::make_shared<SystemGuaranteeCurveScenario>(6, record, "Curva de garantia do sistema");
+  const Network systemNetwork = addNetwork(data, system);
+  RuleSettingsMaker(system, systemNetwork).apply();
+  askForTheSystemCurve(system, systemNetwork);
+  return {rules, priorities, windows, optimisation, curve, system};
 }
 
 bool DemoProject::build(const std::filesystem::path& dataFolder, unsigned int lastYear,

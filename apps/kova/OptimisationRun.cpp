@@ -9,6 +9,7 @@
 #include "UsageError.h"
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
+#include "optimization/SystemGuaranteeCurveScenario.h"
 #include "optimization/kernel/PseudoRandom.h"
 #include "project/database/SaveProject.h"
 
@@ -23,10 +24,10 @@ void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
   if (dynamic_cast<GuaranteeCurveScenario*>(&scenario) && line.has("seed")) {
     ExecutionGuaranteeCurve::setSeed(line.number("seed", 0, 0));
   }
-  auto* optimisation = dynamic_cast<RuleOptimizationScenario*>(&scenario);
-  if (!optimisation) return;
+  auto* swarm = dynamic_cast<SwarmScenario*>(&scenario);
+  if (!swarm) return;
   if (line.has("seed")) PseudoRandom::setSeed(line.number("seed", 0, 0));
-  auto& execution = optimisation->getExecutionOptimization();
+  auto& execution = swarm->getSwarmExecution();
   if (line.has("threads")) {
     // Each thread evaluates on its own copy of the scenario: a mistyped count must not copy it
     // without end.
@@ -36,6 +37,8 @@ void OptimisationRun::prepare(Scenario& scenario, const CommandLine& line,
     }
     execution.setThreads(static_cast<unsigned int>(threads));
   }
+  auto* optimisation = dynamic_cast<RuleOptimizationScenario*>(&scenario);
+  if (!optimisation) return;
   const auto folder = std::filesystem::absolute(project.path()).parent_path();
   optimisation->setResultsFolder(line.has("no-save") ? "" : folder.string());
 }
@@ -54,8 +57,9 @@ void OptimisationRun::storeOutput(const OpenProject& project, const std::string&
 
 void OptimisationRun::finish(Scenario& scenario, const CommandLine& line,
                              const OpenProject& project, Console& console) {
-  if (const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(&scenario)) {
-    const CurveTable table(*curve);
+  if (dynamic_cast<const GuaranteeCurveScenario*>(&scenario) ||
+      dynamic_cast<const SystemGuaranteeCurveScenario*>(&scenario)) {
+    const CurveTable table = CurveTable::of(scenario);
     table.printTable(console.out);
     table.printFailures(console.err);
     if (!line.has("no-save")) storeOutput(project, "curve found");

@@ -33,6 +33,9 @@ Command RunCommand::describe() {
           "(and the files VAR and FUN beside it) unless --no-save; --seed N makes its swarm\n"
           "draw the same numbers every run, --threads K evaluates its candidates on K threads\n"
           "(default: the machine's cores), with the same front whatever K.\n"
+          "A guarantee curve, of a reservoir or of a system, prints its curve when it ends and\n"
+          "stores it likewise; --seed N repeats its search, and the swarms of a system curve\n"
+          "evaluate on --threads K with the same curve whatever K.\n"
           "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
           {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
           run};

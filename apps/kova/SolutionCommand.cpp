@@ -9,6 +9,7 @@
 #include "managers/AutomatedScenarioBuilder.h"
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/RuleOptimizationScenario.h"
+#include "optimization/SystemGuaranteeCurveScenario.h"
 #include "scenario/RuleScenario.h"
 #include "scenario/ScenarioManager.h"
 
@@ -44,6 +45,11 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
   OpenProject project(line.positional(0), nullptr, OpenProject::Access::readWrite);
   const auto scenario = project.scenario(line.required("scenario"));
   if (!line.has("row")) throw UsageError("option --row is required");
+  if (dynamic_cast<const SystemGuaranteeCurveScenario*>(scenario.get())) {
+    throw UsageError("scenario \"" + scenario->getName() +
+                     "\" is a system guarantee curve, which keeps the flow of its out reservoir "
+                     "but not the rules upstream that gave it: no rule scenario is made from it");
+  }
   const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(scenario.get());
   const std::size_t rows =
       curve ? curve->getExecutionGuaranteeCurve().getGuaranteeStr().values.size()

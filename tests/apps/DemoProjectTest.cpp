@@ -14,7 +14,7 @@ std::shared_ptr<Reservoir> reservoir(const Scenario& scenario, const std::string
 
 TEST(DemoProject, ReservoirsGetTheirOwnCatchmentTheirWholeTableAndSplitEvaporation) {
   const auto scenarios = DemoProject::makeScenarios(KOVA_DEMO_DATA, 1932);
-  ASSERT_EQ(scenarios.size(), 5u);
+  ASSERT_EQ(scenarios.size(), 6u);
   const Scenario& rules = *scenarios[0];
   EXPECT_EQ(rules.getInterval().period(), 24u);
   const Date january(1931, 1, 1), july(1931, 7, 1);

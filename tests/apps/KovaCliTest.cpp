@@ -297,7 +297,7 @@ TEST_F(KovaProject, ABadProjectOrScenarioIsNamedInOneLine) {
             "kova check: " + project +
                 ": no scenario named \"Seca\" (scenarios: \"Regras\", \"Prioridades\", "
                 "\"Janelas a partir do armazenamento atual\", \"Otimização das regras\", "
-                "\"Curva de garantia\")\n");
+                "\"Curva de garantia\", \"Curva de garantia do sistema\")\n");
 
   const std::string broken = folder.file("quebrado.sjson");
   fs::copy_file(project + ".sqlite", broken + ".sqlite");

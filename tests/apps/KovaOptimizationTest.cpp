@@ -23,11 +23,20 @@ namespace fs = std::filesystem;
 
 const std::string kOptimisation = "Otimização das regras";
 
-// The demo project over 1931-1933 in folder, its optimisation not run yet.
+// The demo project over 1931-1933, nothing run yet: made once, and copied into folder for each
+// test, which may change its copy.
 std::string makeDemo(const TemporaryFolder& folder) {
-  const auto made =
-      kova({"demo", folder.file(""), "--data", KOVA_DEMO_DATA, "--until", "1933", "--quiet"});
-  EXPECT_EQ(made.status, exitOk) << made.err;
+  static const TemporaryFolder pristine("kova_optimisation_demo_");
+  static const bool made = [] {
+    const auto demo =
+        kova({"demo", pristine.file(""), "--data", KOVA_DEMO_DATA, "--until", "1933", "--quiet"});
+    EXPECT_EQ(demo.status, exitOk) << demo.err;
+    return demo.status == exitOk;
+  }();
+  EXPECT_TRUE(made);
+  for (const auto& entry : fs::directory_iterator(pristine.file(""))) {
+    fs::copy(entry.path(), folder.file(entry.path().filename().string()));
+  }
   return folder.file("sao_francisco.sjson");
 }
 
@@ -191,4 +200,26 @@ TEST(KovaOptimization, AGuaranteeCurveIsPrintedStoredAndReproducedByItsRuleScena
               NumericalUtils::getNearGuarantee(str.guarantees[0], periods));
   }
   closeProject();
+}
+
+TEST(KovaOptimization, ASystemCurveIsTheSameOnEveryThreadCountAndMakesNoRuleScenario) {
+  TemporaryFolder folder("kova_optimisation_");
+  const std::string project = makeDemo(folder);
+  const std::string name = "Curva de garantia do sistema";
+  const auto dry = kova({"run", project, "--scenario", name, "--seed", "3", "--threads", "2",
+                         "--no-save", "--quiet"});
+  ASSERT_EQ(dry.status, exitOk) << dry.err;
+  EXPECT_NE(dry.out.find("guarantee    Itaparica\n"), std::string::npos) << dry.out;
+  const auto one =
+      kova({"run", project, "--scenario", name, "--seed", "3", "--threads", "1", "--quiet"});
+  ASSERT_EQ(one.status, exitOk) << one.err;
+  EXPECT_EQ(one.out, dry.out);
+
+  const auto stored = kova({"curve", project, "--scenario", name, "--format", "csv"});
+  ASSERT_EQ(stored.status, exitOk) << stored.err;
+  EXPECT_EQ(stored.out.substr(0, stored.out.find('\n')), "guarantee,Itaparica");
+  const auto solution = kova({"solution", project, "--scenario", name, "--row", "0"});
+  EXPECT_EQ(solution.status, exitUsage);
+  EXPECT_NE(solution.err.find("no rule scenario is made from it"), std::string::npos)
+      << solution.err;
 }

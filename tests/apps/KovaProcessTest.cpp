@@ -48,7 +48,8 @@ TEST(KovaProcess, ARefusedScenarioPrintsItsFindingsAndEndsWithStatusOne) {
   EXPECT_EQ(check.status, 1);
   const std::string finding = "Volume inicial maior que volume máximo em: Sobradinho\n";
   EXPECT_EQ(check.out.rfind(finding, 0), 0u) << check.out;
-  const Outcome run = kovaProcess({"run", project, "--quiet"});
+  const Outcome run =
+      kovaProcess({"run", project, "--scenario", "Regras", "--scenario", "Prioridades", "--quiet"});
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.out.rfind(
                 "Regras: Cenário não executado devido a existência algum erro de configuração.\n" +

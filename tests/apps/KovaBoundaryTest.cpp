@@ -19,8 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path pathOf(const TemporaryFolder& folder) { return fs::path(folder.file("x")).parent_path(); }
-
 // The names of the files in folder.
 std::vector<std::string> filesIn(const fs::path& folder) {
   std::vector<std::string> names;
@@ -32,9 +30,9 @@ std::vector<std::string> filesIn(const fs::path& folder) {
 // A folder everyone may enter and read, as the user nobody must.
 std::unique_ptr<TemporaryFolder> openFolder() {
   auto folder = std::make_unique<TemporaryFolder>("kova_boundary_");
-  fs::permissions(pathOf(*folder), fs::perms::owner_all | fs::perms::group_read |
-                                       fs::perms::group_exec | fs::perms::others_read |
-                                       fs::perms::others_exec);
+  fs::permissions(folder->root(), fs::perms::owner_all | fs::perms::group_read |
+                                      fs::perms::group_exec | fs::perms::others_read |
+                                      fs::perms::others_exec);
   return folder;
 }
 
@@ -62,8 +60,8 @@ TEST(KovaBoundary, AReadOnlyProjectIsReadableByAnotherUser) {
   for (const std::string& file : {project, project + ".sqlite"}) {
     fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
   }
-  fs::permissions(pathOf(*folder), fs::perms::owner_read | fs::perms::owner_exec |
-                                       fs::perms::others_read | fs::perms::others_exec);
+  fs::permissions(folder->root(), fs::perms::owner_read | fs::perms::owner_exec |
+                                      fs::perms::others_read | fs::perms::others_exec);
   const std::vector<std::vector<std::string>> reads = {
       {"info", project},
       {"check", project},
@@ -79,9 +77,9 @@ TEST(KovaBoundary, AReadOnlyProjectIsReadableByAnotherUser) {
   const Outcome writing = kovaProcess({"run", project, "--quiet"}, ProcessOptions::nobody());
   EXPECT_EQ(writing.status, 2);
   EXPECT_EQ(writing.err, "kova run: " + project + ": cannot be written (no write permission)\n");
-  fs::permissions(pathOf(*folder), fs::perms::owner_all);
+  fs::permissions(folder->root(), fs::perms::owner_all);
   EXPECT_EQ(readFile(project + ".sqlite"), before);
-  EXPECT_EQ(filesIn(pathOf(*folder)),
+  EXPECT_EQ(filesIn(folder->root()),
             (std::vector<std::string>{"leitura.sjson", "leitura.sjson.sqlite"}));
 }
 
@@ -206,7 +204,7 @@ TEST(KovaBoundary, AKilledSaveLeavesNothingOrAProjectAndARetryWorks) {
   for (const int ms : {0, 20, 60, 150, 400}) {
     for (const std::string command : {"save-as", "new", "demo"}) {
       SCOPED_TRACE(command + " killed after " + std::to_string(ms) + " ms");
-      const fs::path target = pathOf(folder) / (command + std::to_string(ms));
+      const fs::path target = folder.root() / (command + std::to_string(ms));
       fs::create_directories(target);
       const std::string project = (target / "alvo.sjson").string();
       std::vector<std::string> args{command};
@@ -234,10 +232,10 @@ TEST(KovaBoundary, AKilledSaveLeavesNothingOrAProjectAndARetryWorks) {
 TEST(KovaBoundary, CtrlCDuringTheDemoExitsThreeAndLeavesNothing) {
   TemporaryFolder folder("kova_boundary_");
   const Outcome interrupted =
-      kovaProcess({"demo", pathOf(folder).string()}, ProcessOptions::signalAfter(SIGINT, 300));
+      kovaProcess({"demo", folder.root().string()}, ProcessOptions::signalAfter(SIGINT, 300));
   if (interrupted.status == 0) GTEST_SKIP() << "the demo was written before the interrupt came";
   EXPECT_EQ(interrupted.status, 3) << interrupted.err;
-  EXPECT_TRUE(filesIn(pathOf(folder)).empty());
+  EXPECT_TRUE(filesIn(folder.root()).empty());
 }
 
 // A disk that fills up is an error naming the file, with nothing of the attempt left behind.
@@ -246,7 +244,7 @@ TEST(KovaBoundary, AFullDiskIsAnErrorAndLeavesNoOrphan) {
   const std::string source = folder.file("origem.sjson");
   saveDemo(source, 1950);
   ASSERT_EQ(kovaProcess({"run", source, "--quiet", "--scenario", "Regras"}).status, 0);
-  const fs::path disk = pathOf(folder) / "disco";
+  const fs::path disk = folder.root() / "disco";
   fs::create_directories(disk);
   if (!canMount(disk, "64k")) GTEST_SKIP() << "a small tmpfs needs the super-user; not tested";
   const Outcome saved =
@@ -288,7 +286,7 @@ TEST(KovaBoundary, CtrlCDuringGenerateExitsThreeAndLeavesNothing) {
                   ProcessOptions::signalAfter(SIGINT, 300));
   if (interrupted.status == 0) GTEST_SKIP() << "the project was written before the interrupt came";
   EXPECT_EQ(interrupted.status, 3) << interrupted.err;
-  EXPECT_TRUE(filesIn(pathOf(folder)).empty());
+  EXPECT_TRUE(filesIn(folder.root()).empty());
 }
 
 TEST(KovaBoundary, CtrlCDuringSaveAsExitsThreeAndLeavesTheSourceAlone) {
@@ -301,7 +299,7 @@ TEST(KovaBoundary, CtrlCDuringSaveAsExitsThreeAndLeavesTheSourceAlone) {
                   ProcessOptions::signalAfter(SIGINT, 300));
   if (interrupted.status == 0) GTEST_SKIP() << "the copy was written before the interrupt came";
   EXPECT_EQ(interrupted.status, 3) << interrupted.err;
-  EXPECT_EQ(filesIn(pathOf(folder)),
+  EXPECT_EQ(filesIn(folder.root()),
             (std::vector<std::string>{"origem.sjson", "origem.sjson.sqlite"}));
   EXPECT_EQ(readFile(source + ".sqlite"), before);
 }

@@ -2,22 +2,15 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "layering/LayerRules.h"
 #include "support/ExpectThrow.h"
+#include "support/FileText.h"
 #include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string readFile(const fs::path& path) {
-  std::ifstream stream(path);
-  std::ostringstream text;
-  text << stream.rdbuf();
-  return text.str();
-}
 
 std::string joined(const std::vector<std::string>& lines) {
   std::string text;

@@ -1,16 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "operation/KLPKRepresentation.h"
 #include "operation/KLPKUtils.h"
+#include "support/FileText.h"
+#include "support/TemporaryFolder.h"
 
 namespace {
 
@@ -46,13 +43,6 @@ Solved solve(KLPKRepresentation& problem) {
   EXPECT_EQ(KLPKUtils::slp_simplex(&problem), 0);
   return {KLPKUtils::slp_get_col_prim(&problem, 0), KLPKUtils::slp_get_col_prim(&problem, 1),
           problem.getValueOfOptimizationFound()};
-}
-
-std::string textOf(const std::string& path) {
-  std::ifstream file(path);
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
 }
 
 }  // namespace
@@ -96,9 +86,7 @@ TEST(KLPKRepresentation, AProgrammeSolvedAfterAnotherGivesWhatANewOneGives) {
 
 // The model and solution files of a reused model are those of a new one.
 TEST(KLPKRepresentation, AReusedModelWritesTheFilesOfANewOne) {
-  const std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / ("kova-klpk-" + std::to_string(::getpid()));
-  std::filesystem::create_directories(folder);
+  const TemporaryFolder folder("kova_klpk_");
   KLPKRepresentation reused;
   build(reused, {1.0, 4.0, 3.0, kUpperBound});
   solve(reused);
@@ -108,16 +96,15 @@ TEST(KLPKRepresentation, AReusedModelWritesTheFilesOfANewOne) {
   KLPKRepresentation fresh;
   build(fresh, second);
   solve(fresh);
-  const auto path = [&](const char* name) { return (folder / name).string(); };
+  const auto path = [&](const char* name) { return folder.file(name); };
   ASSERT_TRUE(reused.writeLp(path("reused.lp")));
   ASSERT_TRUE(fresh.writeLp(path("fresh.lp")));
   ASSERT_TRUE(reused.printSolution(path("reused.txt")));
   ASSERT_TRUE(fresh.printSolution(path("fresh.txt")));
-  EXPECT_EQ(textOf(path("reused.lp")), textOf(path("fresh.lp")));
-  EXPECT_EQ(textOf(path("reused.txt")), textOf(path("fresh.txt")));
-  EXPECT_NE(textOf(path("fresh.lp")).find("R2: +x = 1;"), std::string::npos)
-      << textOf(path("fresh.lp"));
-  std::filesystem::remove_all(folder);
+  EXPECT_EQ(readFile(path("reused.lp")), readFile(path("fresh.lp")));
+  EXPECT_EQ(readFile(path("reused.txt")), readFile(path("fresh.txt")));
+  EXPECT_NE(readFile(path("fresh.lp")).find("R2: +x = 1;"), std::string::npos)
+      << readFile(path("fresh.lp"));
 }
 
 // The model passes from one representation to the next, as from one date to the next; the one

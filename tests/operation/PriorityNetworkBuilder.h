@@ -5,12 +5,11 @@
 
 #include "common/Calendar.h"
 #include "core/Demand.h"
-#include "core/ElementFactory.h"
-#include "core/LinkFactory.h"
 #include "core/PriorityReservoirSettings.h"
 #include "hydrology/HydrologicalBalance.h"
 #include "operation/ExecutionContinuous.h"
 #include "scenario/PriorityScenario.h"
+#include "support/NetworkBuilder.h"
 #include "vocabulary/Vocabulary.h"
 
 // Builds monthly priority scenarios in code. Reservoirs have neither rain nor evaporation, so
@@ -23,11 +22,7 @@ class PriorityNetworkBuilder {
             Interval(Date(2001, 1, 1), Date(2001, months, 1), Vocabulary::of(Periodicity::monthly)),
             "Prioridades")) {}
 
-  std::shared_ptr<Node> node(ElementType type) {
-    auto node = std::static_pointer_cast<Node>(ElementFactory::make(type));
-    scenario->addElement(node, true);
-    return node;
-  }
+  std::shared_ptr<Node> node(ElementType type) { return addNode(*scenario, type); }
 
   // A reservoir without inflow whose target volume is `goal` of its capacity, by default its
   // minimum volume: nothing to keep above it. Its table starts from an empty row after the
@@ -69,16 +64,7 @@ class PriorityNetworkBuilder {
   std::shared_ptr<Link> link(const std::shared_ptr<Node>& up, const std::shared_ptr<Node>& down,
                              double lossPercentage = 0.0, double limit = 9999.0,
                              ElementType type = ElementType::naturalLink) {
-    std::shared_ptr<Link> made;
-    if (type == ElementType::naturalLink) {
-      made = LinkFactory<NaturalLink>::make(up, down, "", Vocabulary::of(LinkAddonType::none));
-    } else {
-      made = LinkFactory<ArtificialLink>::make(up, down, "", Vocabulary::of(LinkAddonType::none));
-    }
-    scenario->addElement(made, true);
-    made->getInputSerie(SerieType::linkLimit)->fill(limit);
-    made->getInputSerie(SerieType::transitLossPercentage)->fill(lossPercentage);
-    return made;
+    return addLink(*scenario, up, down, limit, lossPercentage, type);
   }
 
   template <typename T = PrioritySettings>

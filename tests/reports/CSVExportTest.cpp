@@ -17,6 +17,7 @@
 #include "rules/ConstReleaseRule.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
+#include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
 
@@ -69,15 +70,8 @@ struct RunOfTwoWindows {
 
 class CSVExport : public ::testing::Test {
  protected:
-  void SetUp() override {
-    folder = fs::temp_directory_path() /
-             ("kova-reports-" + std::to_string(::getpid()) + "-" +
-              ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::create_directories(folder);
-  }
-  void TearDown() override { fs::remove_all(folder); }
-
-  fs::path folder;
+  TemporaryFolder temporary{"kova_reports_"};
+  const fs::path& folder = temporary.root();
 };
 
 // A result container without series.

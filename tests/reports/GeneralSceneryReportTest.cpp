@@ -7,6 +7,7 @@
 #include "reports/GeneralSceneryReport.h"
 #include "support/ExpectThrow.h"
 #include "support/NetworkBuilder.h"
+#include "support/TemporaryFolder.h"
 
 TEST(GeneralSceneryReport, CountsAndVolumesOfTheEnabledNetwork) {
   ConfigurationHeader::reset();  // five decimals
@@ -58,14 +59,13 @@ TEST(GeneralSceneryReport, CountsAndVolumesOfTheEnabledNetwork) {
   };
   EXPECT_EQ(GeneralSceneryReport::makeLines(*net.scenario), expected);
 
-  const auto path = std::filesystem::temp_directory_path() /
-                    ("kova-general-report-" + std::to_string(::getpid()) + ".txt");
+  const TemporaryFolder folder("kova_report_");
+  const std::filesystem::path path = folder.file("relatorio.txt");
   GeneralSceneryReport::make(path, net.scenario);
   std::ifstream file(path);
   std::vector<std::string> lines;
   for (std::string line; std::getline(file, line);) lines.push_back(line);
   EXPECT_EQ(lines, expected);
-  std::filesystem::remove(path);
   EXPECT_THROW_TEXT(GeneralSceneryReport::make(path / "inside-a-file", net.scenario),
                     std::runtime_error, "GeneralSceneryReport::make(): erro ao abrir arquivo");
 }

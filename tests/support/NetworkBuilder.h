@@ -12,6 +12,30 @@
 #include "scenario/RuleScenario.h"
 #include "vocabulary/Vocabulary.h"
 
+// A node of the given type added to scenario.
+inline std::shared_ptr<Node> addNode(Scenario& scenario, ElementType type) {
+  auto node = std::static_pointer_cast<Node>(ElementFactory::make(type));
+  scenario.addElement(node, true);
+  return node;
+}
+
+// A link of the given type added to scenario, with the given limit (m³/s) and loss (%) on every
+// period.
+inline std::shared_ptr<Link> addLink(Scenario& scenario, const std::shared_ptr<Node>& up,
+                                     const std::shared_ptr<Node>& down, double limit,
+                                     double lossPercentage, ElementType type) {
+  std::shared_ptr<Link> link;
+  if (type == ElementType::naturalLink) {
+    link = LinkFactory<NaturalLink>::make(up, down, "", Vocabulary::of(LinkAddonType::none));
+  } else {
+    link = LinkFactory<ArtificialLink>::make(up, down, "", Vocabulary::of(LinkAddonType::none));
+  }
+  scenario.addElement(link, true);
+  link->getInputSerie(SerieType::linkLimit)->fill(limit);
+  link->getInputSerie(SerieType::transitLossPercentage)->fill(lossPercentage);
+  return link;
+}
+
 // Builds rule scenarios in code: nodes and links get consecutive ids in the order they are added.
 class NetworkBuilder {
  public:
@@ -26,25 +50,12 @@ class NetworkBuilder {
                     Vocabulary::of(Periodicity::monthly));
   }
 
-  std::shared_ptr<Node> node(ElementType type) {
-    auto node = std::static_pointer_cast<Node>(ElementFactory::make(type));
-    scenario->addElement(node, true);
-    return node;
-  }
+  std::shared_ptr<Node> node(ElementType type) { return addNode(*scenario, type); }
 
   // A link without loss and with the given limit (m³/s) on every period.
   std::shared_ptr<Link> link(const std::shared_ptr<Node>& up, const std::shared_ptr<Node>& down,
                              double limit = 1000.0, ElementType type = ElementType::naturalLink) {
-    std::shared_ptr<Link> link;
-    if (type == ElementType::naturalLink) {
-      link = LinkFactory<NaturalLink>::make(up, down, "", Vocabulary::of(LinkAddonType::none));
-    } else {
-      link = LinkFactory<ArtificialLink>::make(up, down, "", Vocabulary::of(LinkAddonType::none));
-    }
-    scenario->addElement(link, true);
-    link->getInputSerie(SerieType::linkLimit)->fill(limit);
-    link->getInputSerie(SerieType::transitLossPercentage)->fill(0.0);
-    return link;
+    return addLink(*scenario, up, down, limit, 0.0, type);
   }
 
   // Replaces the node's allocation matrix by the numeric form (first row: ids).

@@ -12,13 +12,14 @@
 class TemporaryFolder {
  public:
   explicit TemporaryFolder(const std::string& prefix) {
-    // Named after the test, or after the suite and the process when a suite's set-up makes it:
-    // CTest runs each test of a suite in a process of its own, side by side.
+    // Named after the test, or after the suite when a suite's set-up makes it, and after the
+    // process: CTest runs each test in a process of its own, and several builds may run the same
+    // test side by side.
     const auto* unit = ::testing::UnitTest::GetInstance();
     const auto* test = unit->current_test_info();
-    const std::string name =
-        test ? std::string(test->test_suite_name()) + "_" + test->name()
-             : std::string(unit->current_test_suite()->name()) + "_" + std::to_string(getpid());
+    const std::string name = (test ? std::string(test->test_suite_name()) + "_" + test->name()
+                                   : std::string(unit->current_test_suite()->name())) +
+                             "_" + std::to_string(getpid());
     path = std::filesystem::temp_directory_path() / (prefix + name);
     std::filesystem::remove_all(path);
     std::filesystem::create_directories(path);
@@ -28,6 +29,7 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
   std::string file(const std::string& name) const { return (path / name).string(); }
+  const std::filesystem::path& root() const { return path; }
 
  private:
   std::filesystem::path path;

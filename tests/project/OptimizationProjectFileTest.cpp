@@ -207,7 +207,6 @@ TEST_F(OptimizationProjectFileTest, AWrongOptimisationKeyIsOneLineNamingItsPlace
       {R"("personalizedObjectiveFunctions":[])", R"("personalizedObjectiveFunctions":[{}])",
        "functions by expression are not read yet"},
       {R"("OptRelease":[0,1,1])", R"("OptRelease":[0,1])", "3 flags (0 or 1), one per value"},
-      {R"("OptPercentage":1,)", R"("OptPercentage":"sim",)", "OptPercentage"},
       {R"("objectiveFunctionsValues":[[)", R"("objectiveFunctionsValues":[[0],[)",
        "1 rows of objective values, one per solution"},
   };

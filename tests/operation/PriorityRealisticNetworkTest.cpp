@@ -9,6 +9,7 @@
 #include "core/PrioritySettings.h"
 #include "scenario/PriorityScenario.h"
 #include "support/RealisticNetwork.h"
+#include "support/WaterBalance.h"
 
 namespace {
 
@@ -69,12 +70,8 @@ void expectConservation(const PriorityRealisticNetwork& network) {
         return reservoir->getOutputSerie(type, 0)->getValue(date);
       };
       const double final = value(SerieType::finalVolume);
-      const double balance =
-          value(SerieType::initialVolume) + value(SerieType::upstreamControlledVolume) +
-          value(SerieType::upstreamUncontrolledVolume) + value(SerieType::precipitatedVolume) -
-          value(SerieType::evaporatedVolume) - value(SerieType::releasedVolume) -
-          value(SerieType::spilledVolume);
-      ASSERT_NEAR(balance, final, 1e-6) << reservoir->getName() << " " << date.toString("%d/%m/%Y");
+      ASSERT_NEAR(waterBalanceOf(*reservoir, date).final, final, 1e-6)
+          << reservoir->getName() << " " << date.toString("%d/%m/%Y");
       ASSERT_GE(final, reservoir->getReservoirInfo().minVol - 1e-6) << reservoir->getName();
       ++checked;
       if (value(SerieType::spilledVolume) > 0.0) ++spills;

@@ -8,15 +8,15 @@
 class OpenProject;
 class Scenario;
 
-// What 'kova run' adds for the kinds that search: before a rule optimisation the seed and threads
-// of its swarm, before a guarantee curve the seed of its search; after either, what it found
-// (the front, the curve) printed and stored with the project.
+// What 'kova run' adds for the kinds that search: before a rule optimisation or a system curve
+// the seed and threads of its swarms, before a guarantee curve the seed of its search; after
+// each, what it found (the front, the curve) printed and stored with the project.
 class OptimisationRun {
  public:
-  // Gives an optimisation the options' seed (--seed N: the same front every run; by default the
-  // clock's) and threads (--threads K, default the machine's cores), and the project's folder for
-  // its VAR and FUN files when results are saved; gives a guarantee curve the seed of its search.
-  // Nothing for other scenarios.
+  // Gives an optimisation or a system curve the options' seed (--seed N: the same result every
+  // run; by default the clock's) and threads (--threads K, default the machine's cores), and an
+  // optimisation the project's folder for its VAR and FUN files when results are saved; gives a
+  // guarantee curve the seed of its search. Nothing for other scenarios.
   static void prepare(Scenario& scenario, const CommandLine& line, const OpenProject& project);
   // Prints the front of a finished optimisation or the curve of a guarantee curve and, unless
   // --no-save, writes the project file that keeps it. Throws std::runtime_error naming the file

@@ -26,10 +26,10 @@ class ExecutionSystemGuaranteeCurve : public SwarmExecution {
 
   ExecutionSystemGuaranteeCurve();
 
-  // Runs one swarm per level; false, with the curve as far as it came, when progress cancelled
-  // it. The progress bar counts the evaluations of the whole list of levels, also when only
-  // Q90 runs. Throws std::runtime_error "ExecutionSystemGuaranteeCurve::run: The algorithm not
-  // is configured" without an algorithm.
+  // Runs one swarm per level; false, with no curve, when progress cancelled it. The progress bar
+  // counts the evaluations of the whole list of levels, also when only Q90 runs. Throws
+  // std::runtime_error "ExecutionSystemGuaranteeCurve::run: The algorithm not is configured"
+  // without an algorithm.
   bool run(const Interval& interval, const std::shared_ptr<OperationSystem>& operation,
            const Progress& progress) override;
   using SwarmExecution::run;

@@ -60,6 +60,19 @@ std::string saved(const std::shared_ptr<Scenario>& scenario, const std::string& 
   return projectfile::readFile(path);
 }
 
+// scenario saved as a project with its database and opened again, the same as it was, or null.
+std::shared_ptr<Scenario> throughDatabase(const std::shared_ptr<Scenario>& scenario,
+                                          const projectfile::TemporaryFolder& folder) {
+  ScenarioManager::getInstance().addScenery(0, scenario);
+  EXPECT_TRUE(SaveProject::saveAs(folder.file("base.sjson"), nullptr));
+  SQLStorage::deleteInstance();
+  ScenarioManager::getInstance().clear();
+  const auto opened = LoadProject::load(folder.file("base.sjson"), nullptr);
+  if (opened.size() != 1) return nullptr;
+  EXPECT_EQ(JsonSaveBuilder::toJson(opened), JsonSaveBuilder::toJson({scenario}));
+  return opened[0];
+}
+
 // A text replaced in a saved file, and what the failure to read it must say.
 struct Flaw {
   std::string from, to, expected;
@@ -113,16 +126,11 @@ TEST_F(GuaranteeCurveProjectFileTest, AComputedCurveComesBackByteIdenticalThroug
   EXPECT_EQ(curveOf(*loaded[0]).getNumberOfIterations(), 25u);
 
   // The database keeps the series the file does not: the project opened again runs the same.
-  ScenarioManager::getInstance().addScenery(0, scenario);
-  ASSERT_TRUE(SaveProject::saveAs(folder.file("base.sjson"), nullptr));
-  SQLStorage::deleteInstance();
-  ScenarioManager::getInstance().clear();
-  const auto opened = LoadProject::load(folder.file("base.sjson"), nullptr);
-  ASSERT_EQ(opened.size(), 1u);
-  EXPECT_EQ(JsonSaveBuilder::toJson(opened), JsonSaveBuilder::toJson({scenario}));
+  const auto opened = throughDatabase(scenario, folder);
+  ASSERT_TRUE(opened);
   ExecutionGuaranteeCurve::setSeed(8);
-  ASSERT_TRUE(opened[0]->run(nullptr));
-  EXPECT_EQ(curveOf(*opened[0]).getGuaranteeStr(), curveOf(*scenario).getGuaranteeStr());
+  ASSERT_TRUE(opened->run(nullptr));
+  EXPECT_EQ(curveOf(*opened).getGuaranteeStr(), curveOf(*scenario).getGuaranteeStr());
   SQLStorage::deleteInstance();
 }
 
@@ -160,16 +168,11 @@ TEST_F(GuaranteeCurveProjectFileTest, ASystemCurveComesBackByteIdenticalThroughF
   EXPECT_EQ(saved(loaded[0], folder.file("again.sjson")), text);
   EXPECT_EQ(systemCurveOf(*loaded[0]).getSystemGuaranteeCurveStr(), curve);
 
-  ScenarioManager::getInstance().addScenery(0, scenario);
-  ASSERT_TRUE(SaveProject::saveAs(folder.file("base.sjson"), nullptr));
-  SQLStorage::deleteInstance();
-  ScenarioManager::getInstance().clear();
-  const auto opened = LoadProject::load(folder.file("base.sjson"), nullptr);
-  ASSERT_EQ(opened.size(), 1u);
-  EXPECT_EQ(JsonSaveBuilder::toJson(opened), JsonSaveBuilder::toJson({scenario}));
+  const auto opened = throughDatabase(scenario, folder);
+  ASSERT_TRUE(opened);
   PseudoRandom::setSeed(4);
-  ASSERT_TRUE(opened[0]->run(nullptr));
-  EXPECT_EQ(systemCurveOf(*opened[0]).getSystemGuaranteeCurveStr(), curve);
+  ASSERT_TRUE(opened->run(nullptr));
+  EXPECT_EQ(systemCurveOf(*opened).getSystemGuaranteeCurveStr(), curve);
   SQLStorage::deleteInstance();
 
   // Where the curve names another out reservoir, the method's key stands.

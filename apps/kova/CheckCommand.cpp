@@ -10,9 +10,7 @@ Command CheckCommand::describe() {
   return {"check",
           "kova check P.sjson [--scenario NAME]...",
           tr("check scenarios before running them"),
-          tr("Runs the checks of the named scenarios (all when none is named) and prints every\n"
-             "finding as its message followed by the place it names (element, series, date and\n"
-             "value, or the scenario). Exit status 1 when there is any finding.\n"),
+          HostText::help("check"),
           {{}, {"scenario"}, {}, 1, 1},
           run};
 }

@@ -3,14 +3,17 @@
 #include <algorithm>
 #include <cctype>
 
+#include "HostText.h"
 #include "UsageError.h"
 
 namespace {
 
 bool isOption(const std::string& arg) { return arg.size() > 2 && arg.compare(0, 2, "--") == 0; }
 
-std::string plural(std::size_t count, const std::string& word) {
-  return std::to_string(count) + " " + word + (count == 1 ? "" : "s");
+std::string tooFew(std::size_t expected, std::size_t got) {
+  return expected == 1 ? tr("expected 1 argument, got {1}", {std::to_string(got)})
+                       : tr("expected {1} arguments, got {2}",
+                            {std::to_string(expected), std::to_string(got)});
 }
 
 }  // namespace
@@ -27,7 +30,7 @@ CommandLine CommandLine::parse(const std::vector<std::string>& args, const Optio
     const std::string name =
         arg.substr(2, equals == std::string::npos ? std::string::npos : equals - 2);
     if (accepted.flags.count(name) != 0) {
-      if (equals != std::string::npos) throw UsageError("option --" + name + " takes no value");
+      if (equals != std::string::npos) throw UsageError(tr("option --{1} takes no value", {name}));
       line.flagsGiven.insert(name);
     } else if (accepted.valued.count(name) != 0 || accepted.repeatable.count(name) != 0) {
       if (equals != std::string::npos) {
@@ -35,28 +38,28 @@ CommandLine CommandLine::parse(const std::vector<std::string>& args, const Optio
       } else if (i + 1 < args.size() && !isOption(args[i + 1])) {
         line.take(name, args[++i], accepted);
       } else {
-        throw UsageError("option --" + name + " needs a value");
+        throw UsageError(tr("option --{1} needs a value", {name}));
       }
     } else {
-      throw UsageError("unknown option " + arg.substr(0, equals));
+      throw UsageError(tr("unknown option {1}", {arg.substr(0, equals)}));
     }
   }
   const std::size_t count = line.positionalArgs.size();
   if (count < accepted.minPositional) {
-    throw UsageError("expected " + plural(accepted.minPositional, "argument") + ", got " +
-                     std::to_string(count));
+    throw UsageError(tooFew(accepted.minPositional, count));
   }
   if (count > accepted.maxPositional)
-    throw UsageError("unexpected argument \"" + line.positionalArgs[accepted.maxPositional] + "\"");
+    throw UsageError(
+        tr("unexpected argument \"{1}\"", {line.positionalArgs[accepted.maxPositional]}));
   return line;
 }
 
 void CommandLine::take(const std::string& name, const std::string& value,
                        const OptionSpec& accepted) {
-  if (value.empty()) throw UsageError("option --" + name + " needs a value");
+  if (value.empty()) throw UsageError(tr("option --{1} needs a value", {name}));
   auto& given = valuesGiven[name];
   if (!given.empty() && accepted.repeatable.count(name) == 0) {
-    throw UsageError("option --" + name + " given twice");
+    throw UsageError(tr("option --{1} given twice", {name}));
   }
   given.push_back(value);
 }
@@ -72,7 +75,7 @@ std::string CommandLine::value(const std::string& name, const std::string& fallb
 
 std::string CommandLine::required(const std::string& name) const {
   const auto found = valuesGiven.find(name);
-  if (found == valuesGiven.end()) throw UsageError("option --" + name + " is required");
+  if (found == valuesGiven.end()) throw UsageError(tr("option --{1} is required", {name}));
   return found->second.front();
 }
 
@@ -90,8 +93,8 @@ unsigned long CommandLine::number(const std::string& name, unsigned long fallbac
       !text.empty() && text.size() <= 9 &&
       std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
   if (!digits || std::stoul(text) < minimum) {
-    throw UsageError("option --" + name + ": \"" + text + "\" is not a whole number of at least " +
-                     std::to_string(minimum));
+    throw UsageError(tr("option --{1}: \"{2}\" is not a whole number of at least {3}",
+                        {name, text, std::to_string(minimum)}));
   }
   return std::stoul(text);
 }

@@ -152,20 +152,13 @@ nlohmann::ordered_json toJson(const std::vector<std::string>& heads, const std::
 }  // namespace
 
 Command CompareCommand::describe() {
-  return {
-      "compare",
-      "kova compare P.sjson --scenario A --scenario B [--scenario C]... [--window N]\n"
-      "             [--elements all|reservoirs|demands] [--format table|csv|json]",
-      tr("the metrics of several scenarios side by side"),
-      tr("Computes the metrics of each named scenario from its latest stored run, in window N\n"
-         "(default 1), and prints one line per element and metric: the element, the metric,\n"
-         "one column per scenario and, for each scenario after the first, its difference to\n"
-         "the first (\"B - A\"). Elements are those of the first scenario, matched by name;\n"
-         "drains are left out unless --elements all. A figure without meaning is \"-\" (empty\n"
-         "in csv, null in json). csv separates fields by ','; json is an array of objects with\n"
-         "the same headings as keys.\n"),
-      {{"window", "elements", "format"}, {"scenario"}, {}, 1, 1},
-      run};
+  return {"compare",
+          "kova compare P.sjson --scenario A --scenario B [--scenario C]... [--window N]\n"
+          "             [--elements all|reservoirs|demands] [--format table|csv|json]",
+          tr("the metrics of several scenarios side by side"),
+          HostText::help("compare"),
+          {{"window", "elements", "format"}, {"scenario"}, {}, 1, 1},
+          run};
 }
 
 int CompareCommand::run(const CommandLine& line, Console& console) {

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <limits>
+#include <sstream>
 #include <stdexcept>
 
+#include "HostText.h"
 #include "TextColumns.h"
 #include "common/NumericalUtils.h"
 #include "optimization/GuaranteeCurveScenario.h"
@@ -24,10 +26,10 @@ CurveTable CurveTable::of(const Scenario& scenario) {
   if (const auto* system = dynamic_cast<const SystemGuaranteeCurveScenario*>(&scenario)) {
     return CurveTable(*system);
   }
-  throw std::runtime_error("scenario \"" + scenario.getName() + "\" is a \"" +
-                           scenario.getScenarioType().getName() +
-                           "\" scenario, not a guarantee curve (\"Curva de garantia\" or "
-                           "\"Curva de garantia do sistema\")");
+  throw std::runtime_error(
+      tr("scenario \"{1}\" is a \"{2}\" scenario, not a guarantee curve "
+         "(\"Curva de garantia\" or \"Curva de garantia do sistema\")",
+         {scenario.getName(), scenario.getScenarioType().getName()}));
 }
 
 CurveTable::CurveTable(const GuaranteeCurveScenario& scenario) {
@@ -106,6 +108,10 @@ nlohmann::ordered_json CurveTable::toJson() const {
 }
 
 void CurveTable::printFailures(std::ostream& out) const {
-  for (double level : missing) out << "no release reaches the guarantee " << level << " %\n";
-  for (const auto& name : failed) out << "reservoir \"" << name << "\" failed a level\n";
+  for (double level : missing) {
+    std::ostringstream shown;
+    shown << level;
+    out << tr("no release reaches the guarantee {1} %", {shown.str()}) << '\n';
+  }
+  for (const auto& name : failed) out << tr("reservoir \"{1}\" failed a level", {name}) << '\n';
 }

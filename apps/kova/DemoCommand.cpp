@@ -28,11 +28,7 @@ Command DemoCommand::describe() {
   return {"demo",
           "kova demo DIR [--data FOLDER] [--until YEAR] [--quiet]",
           tr("build the São Francisco demo project"),
-          tr("Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
-             "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
-             "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
-             "simulation, a priority operation and yearly windows from today's storage. --until\n"
-             "YEAR ends the record in December of YEAR, for a quicker try.\n"),
+          HostText::help("demo"),
           {{"data", "until"}, {}, {"quiet"}, 1, 1},
           run};
 }

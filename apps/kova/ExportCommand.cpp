@@ -29,15 +29,12 @@ std::filesystem::path outputFolder(const std::string& name) {
 }  // namespace
 
 Command ExportCommand::describe() {
-  return {
-      "export",
-      "kova export csv|inputs|cav P.sjson --scenario NAME --out DIR",
-      tr("write results, inputs or curves as files"),
-      tr("csv: the results of the latest stored run, one CSV file per element and window, in a\n"
-         "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
-         "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n"),
-      {{"scenario", "out"}, {}, {}, 2, 2},
-      run};
+  return {"export",
+          "kova export csv|inputs|cav P.sjson --scenario NAME --out DIR",
+          tr("write results, inputs or curves as files"),
+          HostText::help("export"),
+          {{"scenario", "out"}, {}, {}, 2, 2},
+          run};
 }
 
 int ExportCommand::run(const CommandLine& line, Console& console) {

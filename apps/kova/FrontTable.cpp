@@ -3,15 +3,17 @@
 #include <limits>
 #include <stdexcept>
 
+#include "HostText.h"
 #include "TextColumns.h"
 #include "optimization/RuleOptimizationScenario.h"
 
 RuleOptimizationScenario& FrontTable::optimisationOf(Scenario& scenario) {
   auto* optimisation = dynamic_cast<RuleOptimizationScenario*>(&scenario);
   if (!optimisation) {
-    throw std::runtime_error("scenario \"" + scenario.getName() + "\" is a \"" +
-                             scenario.getScenarioType().getName() +
-                             "\" scenario, not a rule optimisation (\"Otimizador de regras\")");
+    throw std::runtime_error(
+        tr("scenario \"{1}\" is a \"{2}\" scenario, not a rule optimisation (\"Otimizador de "
+           "regras\")",
+           {scenario.getName(), scenario.getScenarioType().getName()}));
   }
   return *optimisation;
 }

@@ -48,28 +48,17 @@ bool save(const std::filesystem::path& target, const GeneratedProjectOptions& op
 }  // namespace
 
 Command GenerateCommand::describe() {
-  return {
-      "generate",
-      "kova generate OUT.sjson --reservoirs N --demands M --periods T [--mode rule|priority] "
-      "[--layout tree|chain] [--own-priorities] [--seed S] [--quiet]",
-      tr("make a synthetic project of a chosen size"),
-      tr("Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
-         "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
-         "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
-         "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
-         "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
-         "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
-         "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
-         "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
-         "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
-         "demand has a priority of its own, upstream first (at most 98 of them).\n"
-         "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n"),
-      {{"reservoirs", "demands", "periods", "mode", "layout", "seed"},
-       {},
-       {"quiet", "own-priorities"},
-       1,
-       1},
-      run};
+  return {"generate",
+          "kova generate OUT.sjson --reservoirs N --demands M --periods T [--mode rule|priority] "
+          "[--layout tree|chain] [--own-priorities] [--seed S] [--quiet]",
+          tr("make a synthetic project of a chosen size"),
+          HostText::help("generate"),
+          {{"reservoirs", "demands", "periods", "mode", "layout", "seed"},
+           {},
+           {"quiet", "own-priorities"},
+           1,
+           1},
+          run};
 }
 
 GeneratedProjectOptions GenerateCommand::optionsOf(const CommandLine& line) {

@@ -2,7 +2,9 @@
 
 #include <cstdlib>
 #include <optional>
+#include <stdexcept>
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -10,84 +12,26 @@ namespace {
 const std::unordered_map<std::string, std::string>& portuguese() {
   static const std::unordered_map<std::string, std::string> table = {
       {"check scenarios before running them", "verifica cenários antes de executá-los"},
-      {"Runs the checks of the named scenarios (all when none is named) and prints every\n"
-       "finding as its message followed by the place it names (element, series, date and\n"
-       "value, or the scenario). Exit status 1 when there is any finding.\n",
-       "Executa as verificações dos cenários nomeados (todos quando nenhum é nomeado) e mostra\n"
-       "cada achado como sua mensagem seguida do lugar que ela indica (elemento, série, data e\n"
-       "valor, ou o cenário). Código de saída 1 quando há algum achado.\n"},
       {"scenario \"{1}\": no findings", "cenário \"{1}\": nenhum achado"},
       {"scenario \"{1}\": {2} finding(s)", "cenário \"{1}\": {2} achado(s)"},
       {"the metrics of several scenarios side by side",
        "as métricas de vários cenários lado a lado"},
-      {"Computes the metrics of each named scenario from its latest stored run, in window N\n"
-       "(default 1), and prints one line per element and metric: the element, the metric,\n"
-       "one column per scenario and, for each scenario after the first, its difference to\n"
-       "the first (\"B - A\"). Elements are those of the first scenario, matched by name;\n"
-       "drains are left out unless --elements all. A figure without meaning is \"-\" (empty\n"
-       "in csv, null in json). csv separates fields by ','; json is an array of objects with\n"
-       "the same headings as keys.\n",
-       "Calcula as métricas de cada cenário nomeado a partir de sua última execução gravada, na\n"
-       "janela N (padrão 1), e mostra uma linha por elemento e métrica: o elemento, a métrica,\n"
-       "uma coluna por cenário e, para cada cenário depois do primeiro, sua diferença para o\n"
-       "primeiro (\"B - A\"). Os elementos são os do primeiro cenário, casados pelo nome; os\n"
-       "sumidouros ficam de fora salvo com --elements all. Um número sem sentido é \"-\" (vazio\n"
-       "em csv, null em json). csv separa os campos por ','; json é uma lista de objetos com\n"
-       "os mesmos cabeçalhos como chaves.\n"},
       {"scenario \"{1}\": stored run {2}", "cenário \"{1}\": execução gravada {2}"},
       {" (warning: the project's inputs were saved after it)",
        " (aviso: os dados de entrada do projeto foram gravados depois dela)"},
       {"cannot make the folder", "não foi possível criar a pasta"},
       {"build the São Francisco demo project", "monta o projeto de demonstração do São Francisco"},
-      {"Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
-       "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
-       "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
-       "simulation, a priority operation and yearly windows from today's storage. --until\n"
-       "YEAR ends the record in December of YEAR, for a quicker try.\n",
-       "Monta DIR/sao_francisco.sjson (com seu banco de dados) a partir dos dados públicos em\n"
-       "FOLDER (padrão: a pasta examples/sao_francisco do código-fonte): a cascata de Retiro\n"
-       "Baixo a Moxotó sobre as vazões naturais mensais de 1931-2019, com uma simulação por\n"
-       "regras, uma operação por prioridades e janelas anuais a partir do armazenamento atual.\n"
-       "--until YEAR termina o registro em dezembro de YEAR, para um teste mais rápido.\n"},
       {"saving", "gravando"},
       {"demo cancelled; nothing was written", "demonstração cancelada; nada foi escrito"},
       {"demo project written to {1}", "projeto de demonstração escrito em {1}"},
       {"cannot make the output folder", "não foi possível criar a pasta de saída"},
       {"write results, inputs or curves as files",
        "escreve resultados, entradas ou curvas em arquivos"},
-      {"csv: the results of the latest stored run, one CSV file per element and window, in a\n"
-       "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
-       "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n",
-       "csv: os resultados da última execução gravada, um arquivo CSV por elemento e janela,\n"
-       "numa pasta com o nome do cenário. inputs: as séries de entrada, um arquivo CSV por\n"
-       "elemento. cav: as tabelas cota-área-volume dos reservatórios, em <cenário>_cav.txt.\n"},
       {"nothing to export named \"{1}\" (csv, inputs or cav)",
        "nada a exportar com o nome \"{1}\" (csv, inputs ou cav)"},
       {"{1} file(s) written under {2}", "{1} arquivo(s) escrito(s) em {2}"},
       {"make a synthetic project of a chosen size",
        "cria um projeto sintético do tamanho escolhido"},
-      {"Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
-       "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
-       "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
-       "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
-       "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
-       "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
-       "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
-       "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
-       "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
-       "demand has a priority of its own, upstream first (at most 98 of them).\n"
-       "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n",
-       "Escreve OUT.sjson e OUT.sjson.sqlite: um cenário de T meses a partir de janeiro de 1901\n"
-       "com N reservatórios (1 a 1000) numa árvore de afluentes, M demandas (0 a 5000) de todos\n"
-       "os tipos, junções, rios e canais, e um sumidouro na foz. As vazões têm estações e secas\n"
-       "de vários anos. --mode rule (o padrão) dá a cada reservatório uma regra de liberação e\n"
-       "a cada nó uma matriz de alocação; --mode priority dá prioridades e volumes meta. T vai\n"
-       "de 1 a 12000. A mesma --seed (padrão 1) dá os mesmos arquivos.\n"
-       "--layout chain (modo prioridade, o padrão nele) dá em vez disso o rio de referência:\n"
-       "N reservatórios em fila até o sumidouro, a demanda j tomando do reservatório j mod N,\n"
-       "demandas com prioridades 1 a 3 e reservatórios com 4; com --own-priorities cada\n"
-       "reservatório e demanda tem prioridade própria, de montante para jusante (no máximo 98).\n"
-       "OUT ainda não pode existir; Ctrl-C durante a gravação não deixa arquivo algum.\n"},
       {"could not be written", "não pôde ser escrito"},
       {"cancelled, nothing written", "cancelado, nada foi escrito"},
       {"generated {1}: {2} reservoirs, {3} demands, {4} months, ",
@@ -107,16 +51,6 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"priority", "prioridade"},
       {"rule", "regra"},
       {"summarise a project and its scenarios", "resume um projeto e seus cenários"},
-      {"Prints each scenario's kind, execution method and period, then its elements counted\n"
-       "by kind; with --elements, every element instead: its kind, name and id, the\n"
-       "capacity, minimum and initial volumes of a reservoir (hm³), the mean of a demand\n"
-       "(m³/s), the priority in a priority scenario and the release rule in a rule\n"
-       "scenario (\"-\" where the element has none).\n",
-       "Mostra o tipo, o método de execução e o período de cada cenário, depois seus elementos\n"
-       "contados por tipo; com --elements, cada elemento em vez disso: seu tipo, nome e id, os\n"
-       "volumes de capacidade, mínimo e inicial de um reservatório (hm³), a média de uma\n"
-       "demanda (m³/s), a prioridade num cenário de prioridades e a regra de liberação num\n"
-       "cenário de regras (\"-\" onde o elemento não tem).\n"},
       {"Elements of {1}:", "Elementos de {1}:"},
       {"unknown command \"{1}\"; try 'kova --help'",
        "comando desconhecido \"{1}\"; tente 'kova --help'"},
@@ -142,77 +76,302 @@ const std::unordered_map<std::string, std::string>& portuguese() {
        "ou de arquivo, 3 cancelado.\n"},
       {"Usage: {1}", "Uso: {1}"},
       {"performance metrics of a stored run", "métricas de desempenho de uma execução gravada"},
-      {"Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
-       "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
-       "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
-       "out unless --elements all. A figure that has no meaning (a division by nothing, a target\n"
-       "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
-       "Every output first names the scenario, the windows with their first and last dates and\n"
-       "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
-       "The table has one line per metric and one column per element; csv has one line per\n"
-       "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
-       "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
-       "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n",
-       "Calcula as métricas dos reservatórios e demandas a partir da última execução gravada do\n"
-       "cenário, na janela N (contada a partir de 1, padrão 1); com --windows all, cada métrica\n"
-       "sobre todas as janelas: seu mínimo, percentis 10, 50 e 90 e máximo. Os sumidouros\n"
-       "ficam de fora salvo com --elements all. Um número sem sentido (uma divisão por nada, uma\n"
-       "métrica de meta de um reservatório sem meta) é \"-\" (vazio em csv, null em json).\n"
-       "Toda saída começa nomeando o cenário, as janelas com suas primeira e última datas e o\n"
-       "carimbo de tempo da execução gravada, e avisa quando as entradas do projeto foram\n"
-       "gravadas depois dela. A tabela tem uma linha por métrica e uma coluna por elemento;\n"
-       "csv tem uma linha por elemento (a tabela dos reservatórios, uma linha em branco, depois\n"
-       "a das demandas), após linhas '# '; json tem {\"scenario\", \"windows\", \"first\", "
-       "\"last\",\n"
-       "\"storedRun\", \"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n"},
       {"warning: the project's inputs were saved after the stored run of {1}; run the scenario "
        "again for results that answer to them",
        "aviso: as entradas do projeto foram gravadas depois da execução gravada de {1}; execute o "
        "cenário de novo para ter resultados que correspondam a elas"},
       {"create a blank priority project", "cria um projeto de prioridades em branco"},
-      {"Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
-       "elements over the months of the current year. P must not exist yet.\n",
-       "Escreve P.sjson e seu banco de dados P.sjson.sqlite com um cenário de prioridades sem\n"
-       "elementos sobre os meses do ano corrente. P ainda não pode existir.\n"},
       {"new project written to {1}", "novo projeto escrito em {1}"},
       {"the general report of a scenario", "o relatório geral de um cenário"},
-      {"Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
-       "the volume each kind of demand requires over the scenario's period.\n",
-       "Mostra a contagem de elementos por tipo, o volume útil inicial dos reservatórios e o\n"
-       "volume que cada tipo de demanda requer no período do cenário.\n"},
       {"run scenarios and store their results", "executa cenários e grava seus resultados"},
       {"opening", "abrindo"},
       {"results not stored, saving was cancelled",
        "resultados não gravados, a gravação foi cancelada"},
       {"{1} CSV file(s) written under {2}", "{1} arquivo(s) CSV escrito(s) em {2}"},
       {"copy a project under another name", "copia um projeto com outro nome"},
-      {"Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
-       "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n",
-       "Abre P e o grava como Q: o arquivo de projeto Q.sjson e seu banco Q.sjson.sqlite.\n"
-       "Q ainda não pode existir. Ctrl-C cancela a gravação e não deixa Q algum (código 3).\n"},
       {"save-as cancelled; {1} is as it was", "save-as cancelado; {1} está como estava"},
       {"saved as {1}", "gravado como {1}"},
       {"one element's input and result series of a stored run",
        "as séries de entrada e de resultado de um elemento numa execução gravada"},
-      {"Prints the input series of the element and its result series from the latest stored\n"
-       "run of the scenario, over window N (counted from 1, default 1): one line per date and\n"
-       "series, with the columns date (YYYY-MM-DD), kind, direction (input or result), value\n"
-       "and unit. --kind keeps only the series of that name (\"Volume final\") or number (10);\n"
-       "it may be repeated. A missing value is \"-\" (empty in csv, null in json). csv\n"
-       "separates fields by ','; json is an array of {\"date\", \"kind\", \"direction\",\n"
-       "\"value\", \"unit\"}.\n",
-       "Mostra as séries de entrada do elemento e suas séries de resultado da última execução\n"
-       "gravada do cenário, na janela N (contada a partir de 1, padrão 1): uma linha por data e\n"
-       "série, com as colunas date (AAAA-MM-DD), kind, direction (input ou result), value e\n"
-       "unit. --kind mantém só as séries daquele nome (\"Volume final\") ou número (10); pode\n"
-       "ser repetida. Um valor ausente é \"-\" (vazio em csv, null em json). csv separa os\n"
-       "campos por ','; json é uma lista de {\"date\", \"kind\", \"direction\", \"value\", "
-       "\"unit\"}.\n"},
       {"warning: the project's inputs were saved after the stored run of {1}",
        "aviso: as entradas do projeto foram gravadas depois da execução gravada de {1}"},
       {"the stored results of scenario {1} do not cover its dates ({2}); run it again",
        "os resultados gravados do cenário {1} não cobrem suas datas ({2}); execute-o de novo"},
       {"element {1}, {2}, {3}", "elemento {1}, {2}, {3}"},
+      {"the stored front of a rule optimisation", "a frente gravada de uma otimização de regras"},
+      {"scenario \"{1}\" has no stored front; run it with 'kova run'",
+       "o cenário \"{1}\" não tem frente gravada; execute-o com 'kova run'"},
+      {"scenario \"{1}\" is a \"{2}\" scenario, not a rule optimisation (\"Otimizador de regras\")",
+       "o cenário \"{1}\" é um cenário \"{2}\", não uma otimização de regras (\"Otimizador de "
+       "regras\")"},
+      {"the stored guarantee curve of a scenario", "a curva de garantia gravada de um cenário"},
+      {"scenario \"{1}\" has no stored curve; run it with 'kova run'",
+       "o cenário \"{1}\" não tem curva gravada; execute-o com 'kova run'"},
+      {"scenario \"{1}\" is a \"{2}\" scenario, not a guarantee curve (\"Curva de garantia\" or "
+       "\"Curva de garantia do sistema\")",
+       "o cenário \"{1}\" é um cenário \"{2}\", não uma curva de garantia (\"Curva de garantia\" "
+       "ou \"Curva de garantia do sistema\")"},
+      {"no release reaches the guarantee {1} %",
+       "nenhuma vazão liberada alcança a garantia de {1} %"},
+      {"reservoir \"{1}\" failed a level", "o reservatório \"{1}\" falhou em um nível"},
+      {"make the rule scenario of one row of a front or of a guarantee curve",
+       "cria o cenário de regras de uma linha de uma frente ou de uma curva de garantia"},
+      {"scenario \"{1}\" is a system guarantee curve, which keeps the flow of its out reservoir "
+       "but not the rules upstream that gave it: no rule scenario is made from it",
+       "o cenário \"{1}\" é uma curva de garantia do sistema, que guarda a vazão de seu "
+       "reservatório de saída mas não as regras a montante que a deram: nenhum cenário de regras "
+       "é criado a partir dela"},
+      {"option --row: scenario \"{1}\" has {2} row(s) in its stored front",
+       "opção --row: o cenário \"{1}\" tem {2} linha(s) em sua frente gravada"},
+      {"option --row: scenario \"{1}\" has {2} row(s) in its stored curve",
+       "opção --row: o cenário \"{1}\" tem {2} linha(s) em sua curva gravada"},
+      {", rows 0 to {1}", ", linhas de 0 a {1}"},
+      {"the project already has a scenario named \"{1}\"",
+       "o projeto já tem um cenário chamado \"{1}\""},
+      {"{1}: made from row {2} of \"{3}\" and saved",
+       "{1}: criado a partir da linha {2} de \"{3}\" e gravado"},
+      {"option --{1} takes no value", "a opção --{1} não aceita valor"},
+      {"option --{1} needs a value", "a opção --{1} precisa de um valor"},
+      {"option --{1} given twice", "a opção --{1} foi dada duas vezes"},
+      {"option --{1} is required", "a opção --{1} é obrigatória"},
+      {"option --{1}: \"{2}\" is not a whole number of at least {3}",
+       "opção --{1}: \"{2}\" não é um número inteiro de pelo menos {3}"},
+      {"unknown option {1}", "opção desconhecida {1}"},
+      {"expected 1 argument, got {1}", "esperava 1 argumento, recebeu {1}"},
+      {"expected {1} arguments, got {2}", "esperava {1} argumentos, recebeu {2}"},
+      {"unexpected argument \"{1}\"", "argumento inesperado \"{1}\""},
+      {"no such project file", "arquivo de projeto inexistente"},
+      {"not a project file", "não é um arquivo de projeto"},
+      {"cannot be read", "não pode ser lido"},
+      {"cannot be written (no write permission)",
+       "não pode ser escrito (sem permissão de escrita)"},
+      {"the project has no scenario", "o projeto não tem cenário algum"},
+      {"no scenario named {1} (scenarios: {2})", "nenhum cenário chamado {1} (cenários: {2})"},
+      {"none", "nenhum"},
+      {"scenario {1} has no stored results (run it first: kova run {2} --scenario {1})",
+       "o cenário {1} não tem resultados gravados (execute-o antes: kova run {2} --scenario {1})"},
+  };
+  return table;
+}
+
+// The long help of each command, for --help, in English and in Portuguese.
+const std::unordered_map<std::string, std::pair<std::string, std::string>>& helps() {
+  static const std::unordered_map<std::string, std::pair<std::string, std::string>> table = {
+      {"check",
+       {"Runs the checks of the named scenarios (all when none is named) and prints every\n"
+        "finding as its message followed by the place it names (element, series, date and\n"
+        "value, or the scenario). Exit status 1 when there is any finding.\n",
+        "Executa as verificações dos cenários nomeados (todos quando nenhum é nomeado) e mostra\n"
+        "cada achado como sua mensagem seguida do lugar que ela indica (elemento, série, data e\n"
+        "valor, ou o cenário). Código de saída 1 quando há algum achado.\n"}},
+      {"compare",
+       {"Computes the metrics of each named scenario from its latest stored run, in window N\n"
+        "(default 1), and prints one line per element and metric: the element, the metric,\n"
+        "one column per scenario and, for each scenario after the first, its difference to\n"
+        "the first (\"B - A\"). Elements are those of the first scenario, matched by name;\n"
+        "drains are left out unless --elements all. A figure without meaning is \"-\" (empty\n"
+        "in csv, null in json). csv separates fields by ','; json is an array of objects with\n"
+        "the same headings as keys.\n",
+        "Calcula as métricas de cada cenário nomeado a partir de sua última execução gravada, na\n"
+        "janela N (padrão 1), e mostra uma linha por elemento e métrica: o elemento, a métrica,\n"
+        "uma coluna por cenário e, para cada cenário depois do primeiro, sua diferença para o\n"
+        "primeiro (\"B - A\"). Os elementos são os do primeiro cenário, casados pelo nome; os\n"
+        "sumidouros ficam de fora salvo com --elements all. Um número sem sentido é \"-\" (vazio\n"
+        "em csv, null em json). csv separa os campos por ','; json é uma lista de objetos com\n"
+        "os mesmos cabeçalhos como chaves.\n"}},
+      {"demo",
+       {"Builds DIR/sao_francisco.sjson (with its database) from the public data in FOLDER\n"
+        "(default: the examples/sao_francisco folder of the source tree): the cascade from\n"
+        "Retiro Baixo to Moxotó on the monthly natural inflows of 1931-2019, with a rule\n"
+        "simulation, a priority operation and yearly windows from today's storage. --until\n"
+        "YEAR ends the record in December of YEAR, for a quicker try.\n",
+        "Monta DIR/sao_francisco.sjson (com seu banco de dados) a partir dos dados públicos em\n"
+        "FOLDER (padrão: a pasta examples/sao_francisco do código-fonte): a cascata de Retiro\n"
+        "Baixo a Moxotó sobre as vazões naturais mensais de 1931-2019, com uma simulação por\n"
+        "regras, uma operação por prioridades e janelas anuais a partir do armazenamento atual.\n"
+        "--until YEAR termina o registro em dezembro de YEAR, para um teste mais rápido.\n"}},
+      {"export",
+       {"csv: the results of the latest stored run, one CSV file per element and window, in a\n"
+        "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
+        "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n",
+        "csv: os resultados da última execução gravada, um arquivo CSV por elemento e janela,\n"
+        "numa pasta com o nome do cenário. inputs: as séries de entrada, um arquivo CSV por\n"
+        "elemento. cav: as tabelas cota-área-volume dos reservatórios, em <cenário>_cav.txt.\n"}},
+      {"generate",
+       {"Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
+        "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
+        "kind, junctions, rivers and canals, and a drain at the mouth. Inflows have seasons\n"
+        "and multi-year droughts. --mode rule (the default) gives every reservoir a release\n"
+        "rule and every node an allocation matrix; --mode priority gives priorities and target\n"
+        "volumes. T is 1 to 12000. The same --seed (default 1) gives the same files.\n"
+        "--layout chain (priority mode, the default there) gives instead the benchmark river:\n"
+        "N reservoirs in a row into the drain, demand j drawing from reservoir j mod N, demands\n"
+        "at priorities 1 to 3 and reservoirs at 4; with --own-priorities every reservoir and\n"
+        "demand has a priority of its own, upstream first (at most 98 of them).\n"
+        "OUT must not exist yet; Ctrl-C while saving leaves no file behind.\n",
+        "Escreve OUT.sjson e OUT.sjson.sqlite: um cenário de T meses a partir de janeiro de 1901\n"
+        "com N reservatórios (1 a 1000) numa árvore de afluentes, M demandas (0 a 5000) de todos\n"
+        "os tipos, junções, rios e canais, e um sumidouro na foz. As vazões têm estações e secas\n"
+        "de vários anos. --mode rule (o padrão) dá a cada reservatório uma regra de liberação e\n"
+        "a cada nó uma matriz de alocação; --mode priority dá prioridades e volumes meta. T vai\n"
+        "de 1 a 12000. A mesma --seed (padrão 1) dá os mesmos arquivos.\n"
+        "--layout chain (modo prioridade, o padrão nele) dá em vez disso o rio de referência:\n"
+        "N reservatórios em fila até o sumidouro, a demanda j tomando do reservatório j mod N,\n"
+        "demandas com prioridades 1 a 3 e reservatórios com 4; com --own-priorities cada\n"
+        "reservatório e demanda tem prioridade própria, de montante para jusante (no máximo 98).\n"
+        "OUT ainda não pode existir; Ctrl-C durante a gravação não deixa arquivo algum.\n"}},
+      {"info",
+       {"Prints each scenario's kind, execution method and period, then its elements counted\n"
+        "by kind; with --elements, every element instead: its kind, name and id, the\n"
+        "capacity, minimum and initial volumes of a reservoir (hm³), the mean of a demand\n"
+        "(m³/s), the priority in a priority scenario and the release rule in a rule\n"
+        "scenario (\"-\" where the element has none).\n",
+        "Mostra o tipo, o método de execução e o período de cada cenário, depois seus elementos\n"
+        "contados por tipo; com --elements, cada elemento em vez disso: seu tipo, nome e id, os\n"
+        "volumes de capacidade, mínimo e inicial de um reservatório (hm³), a média de uma\n"
+        "demanda (m³/s), a prioridade num cenário de prioridades e a regra de liberação num\n"
+        "cenário de regras (\"-\" onde o elemento não tem).\n"}},
+      {"metrics",
+       {"Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
+        "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
+        "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
+        "out unless --elements all. A figure that has no meaning (a division by nothing, a target\n"
+        "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
+        "Every output first names the scenario, the windows with their first and last dates and\n"
+        "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
+        "The table has one line per metric and one column per element; csv has one line per\n"
+        "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
+        "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
+        "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n",
+        "Calcula as métricas dos reservatórios e demandas a partir da última execução gravada do\n"
+        "cenário, na janela N (contada a partir de 1, padrão 1); com --windows all, cada métrica\n"
+        "sobre todas as janelas: seu mínimo, percentis 10, 50 e 90 e máximo. Os sumidouros\n"
+        "ficam de fora salvo com --elements all. Um número sem sentido (uma divisão por nada, uma\n"
+        "métrica de meta de um reservatório sem meta) é \"-\" (vazio em csv, null em json).\n"
+        "Toda saída começa nomeando o cenário, as janelas com suas primeira e última datas e o\n"
+        "carimbo de tempo da execução gravada, e avisa quando as entradas do projeto foram\n"
+        "gravadas depois dela. A tabela tem uma linha por métrica e uma coluna por elemento;\n"
+        "csv tem uma linha por elemento (a tabela dos reservatórios, uma linha em branco, depois\n"
+        "a das demandas), após linhas '# '; json tem {\"scenario\", \"windows\", \"first\", "
+        "\"last\",\n"
+        "\"storedRun\", \"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": "
+        "[...]}.\n"}},
+      {"new",
+       {"Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
+        "elements over the months of the current year. P must not exist yet.\n",
+        "Escreve P.sjson e seu banco de dados P.sjson.sqlite com um cenário de prioridades sem\n"
+        "elementos sobre os meses do ano corrente. P ainda não pode existir.\n"}},
+      {"report",
+       {"Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
+        "the volume each kind of demand requires over the scenario's period.\n",
+        "Mostra a contagem de elementos por tipo, o volume útil inicial dos reservatórios e o\n"
+        "volume que cada tipo de demanda requer no período do cenário.\n"}},
+      {"save-as",
+       {"Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
+        "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n",
+        "Abre P e o grava como Q: o arquivo de projeto Q.sjson e seu banco Q.sjson.sqlite.\n"
+        "Q ainda não pode existir. Ctrl-C cancela a gravação e não deixa Q algum (código 3).\n"}},
+      {"series",
+       {"Prints the input series of the element and its result series from the latest stored\n"
+        "run of the scenario, over window N (counted from 1, default 1): one line per date and\n"
+        "series, with the columns date (YYYY-MM-DD), kind, direction (input or result), value\n"
+        "and unit. --kind keeps only the series of that name (\"Volume final\") or number (10);\n"
+        "it may be repeated. A missing value is \"-\" (empty in csv, null in json). csv\n"
+        "separates fields by ','; json is an array of {\"date\", \"kind\", \"direction\",\n"
+        "\"value\", \"unit\"}.\n",
+        "Mostra as séries de entrada do elemento e suas séries de resultado da última execução\n"
+        "gravada do cenário, na janela N (contada a partir de 1, padrão 1): uma linha por data e\n"
+        "série, com as colunas date (AAAA-MM-DD), kind, direction (input ou result), value e\n"
+        "unit. --kind mantém só as séries daquele nome (\"Volume final\") ou número (10); pode\n"
+        "ser repetida. Um valor ausente é \"-\" (vazio em csv, null em json). csv separa os\n"
+        "campos por ','; json é uma lista de {\"date\", \"kind\", \"direction\", \"value\", "
+        "\"unit\"}.\n"}},
+      {"run",
+       {"Runs the named scenarios (all when none is named) one after the other, printing each\n"
+        "one's status. Results are stored in the project database unless --no-save; --csv DIR\n"
+        "also writes them as CSV files under DIR. Progress goes to standard error (none with\n"
+        "--quiet). Ctrl-C cancels the scenario running and leaves the database as it was.\n"
+        "--solver chooses the solver of the priority programmes for this run, whatever the\n"
+        "project names (lp_solve unless it names CLP).\n"
+        "A rule optimisation shows its progress per simulation, then prints its front (one row\n"
+        "per solution, the value of each objective function) and stores it in the project file\n"
+        "(and the files VAR and FUN beside it) unless --no-save; --seed N makes its swarm\n"
+        "draw the same numbers every run, --threads K evaluates its candidates on K threads\n"
+        "(default: the machine's cores), with the same front whatever K.\n"
+        "A guarantee curve, of a reservoir or of a system, prints its curve when it ends and\n"
+        "stores it likewise; --seed N repeats its search, and the swarms of a system curve\n"
+        "evaluate on --threads K with the same curve whatever K.\n"
+        "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
+        "Executa os cenários nomeados (todos quando nenhum é nomeado) um após o outro, mostrando\n"
+        "a situação de cada um. Os resultados são gravados no banco de dados do projeto salvo com\n"
+        "--no-save; --csv DIR também os escreve como arquivos CSV em DIR. O progresso vai para a\n"
+        "saída de erro padrão (nenhum com --quiet). Ctrl-C cancela o cenário em execução e deixa\n"
+        "o banco de dados como estava.\n"
+        "--solver escolhe o resolvedor dos programas de prioridades nesta execução, seja qual for\n"
+        "o que o projeto indica (lp_solve, salvo se ele indicar CLP).\n"
+        "Uma otimização de regras mostra seu progresso por simulação, depois mostra sua frente\n"
+        "(uma linha por solução, o valor de cada função objetivo) e a grava no arquivo do projeto\n"
+        "(e nos arquivos VAR e FUN ao lado dele) salvo com --no-save; --seed N faz seu enxame\n"
+        "sortear os mesmos números a cada execução, --threads K avalia seus candidatos em K\n"
+        "threads (padrão: os núcleos da máquina), com a mesma frente qualquer que seja K.\n"
+        "Uma curva de garantia, de um reservatório ou de um sistema, mostra sua curva ao terminar\n"
+        "e a grava da mesma forma; --seed N repete sua busca, e os enxames de uma curva do\n"
+        "sistema avaliam em --threads K com a mesma curva qualquer que seja K.\n"
+        "Código de saída: 0 todos executados, 1 um cenário foi recusado ou não terminou, 3\n"
+        "cancelado.\n"}},
+      {"front",
+       {"Prints the front that the latest run of the rule optimisation stored in the project:\n"
+        "one row per solution with its index (the row that 'kova solution' takes), the value\n"
+        "of each objective function and the decision variables x1..xn, each in [0, 1]. csv\n"
+        "separates fields by ',' and gives 17 significant digits; json is an array of\n"
+        "{\"row\", \"objectives\": {\"<function>\": value}, \"variables\": [...]}.\n"
+        "Exit status: 0 printed, 1 the scenario has no stored front, 2 usage or file error.\n",
+        "Mostra a frente que a última execução da otimização de regras gravou no projeto: uma\n"
+        "linha por solução com seu índice (a linha que 'kova solution' toma), o valor de cada\n"
+        "função objetivo e as variáveis de decisão x1..xn, cada uma em [0, 1]. csv separa os\n"
+        "campos por ',' e dá 17 algarismos significativos; json é uma lista de\n"
+        "{\"row\", \"objectives\": {\"<function>\": value}, \"variables\": [...]}.\n"
+        "Código de saída: 0 mostrada, 1 o cenário não tem frente gravada, 2 erro de uso ou de\n"
+        "arquivo.\n"}},
+      {"curve",
+       {"Prints the guarantee curve that the latest run of the scenario stored in the project:\n"
+        "one row per level of guarantee (%) that every reservoir of the curve reached, with the\n"
+        "constant release (m³/s) of each, the row number being the one 'kova solution' takes;\n"
+        "for the curve of a system, the flow of its out reservoir at each level.\n"
+        "The table marks Q90; csv has the header 'guarantee' and one column per reservoir,\n"
+        "releases in 17 significant digits; json is an array of {\"guarantee\", \"releases\":\n"
+        "{\"<reservoir>\": q}}. The levels asked that have no row go to standard error.\n"
+        "Exit status: 0 printed, 1 the scenario has no stored curve, 2 usage or file error.\n",
+        "Mostra a curva de garantia que a última execução do cenário gravou no projeto: uma\n"
+        "linha por nível de garantia (%) que todos os reservatórios da curva alcançaram, com a\n"
+        "vazão liberada constante (m³/s) de cada um, sendo o número da linha o que\n"
+        "'kova solution' toma; para a curva de um sistema, a vazão de seu reservatório de saída\n"
+        "em cada nível.\n"
+        "A tabela marca Q90; csv tem o cabeçalho 'guarantee' e uma coluna por reservatório,\n"
+        "vazões com 17 algarismos significativos; json é uma lista de {\"guarantee\",\n"
+        "\"releases\": {\"<reservoir>\": q}}. Os níveis pedidos que não têm linha vão para a\n"
+        "saída de erro padrão.\n"
+        "Código de saída: 0 mostrada, 1 o cenário não tem curva gravada, 2 erro de uso ou de\n"
+        "arquivo.\n"}},
+      {"solution",
+       {"Makes the rule scenario \"NAME-SOL-I\" out of row I of the stored front of the rule\n"
+        "optimisation NAME (the rows 'kova front' prints): the same network and period, run\n"
+        "continuously, each optimisable rule replaced by the simulation rule that the row's\n"
+        "decision variables give; 'kova run' then reproduces the row's objective values. For\n"
+        "a guarantee curve NAME it makes \"NAME-GUA-I\", in which each reservoir of the curve\n"
+        "releases its flow of row I ('kova curve') constantly. The scenario is saved into the\n"
+        "project.\n"
+        "Exit status: 0 made, 2 usage or file error (no such row, the scenario exists), 3\n"
+        "cancelled.\n",
+        "Cria o cenário de regras \"NAME-SOL-I\" a partir da linha I da frente gravada da\n"
+        "otimização de regras NAME (as linhas que 'kova front' mostra): a mesma rede e o mesmo\n"
+        "período, executados de forma contínua, cada regra otimizável substituída pela regra de\n"
+        "simulação que as variáveis de decisão da linha dão; 'kova run' então reproduz os\n"
+        "valores objetivo da linha. Para uma curva de garantia NAME, cria \"NAME-GUA-I\", em que\n"
+        "cada reservatório da curva libera constantemente sua vazão da linha I ('kova curve').\n"
+        "O cenário é gravado no projeto.\n"
+        "Código de saída: 0 criado, 2 erro de uso ou de arquivo (linha inexistente, o cenário já\n"
+        "existe), 3 cancelado.\n"}},
   };
   return table;
 }
@@ -220,6 +379,11 @@ const std::unordered_map<std::string, std::string>& portuguese() {
 std::optional<HostText::Language>& chosen() {
   static std::optional<HostText::Language> language;
   return language;
+}
+
+HostText::Language inUse() {
+  if (!chosen()) chosen() = HostText::fromEnvironment();
+  return *chosen();
 }
 
 }  // namespace
@@ -236,8 +400,7 @@ HostText::Language HostText::fromEnvironment() {
 void HostText::use(Language language) { chosen() = language; }
 
 std::string HostText::of(const std::string& english) {
-  if (!chosen()) chosen() = fromEnvironment();
-  if (*chosen() == Language::english) return english;
+  if (inUse() == Language::english) return english;
   const auto found = portuguese().find(english);
   return found == portuguese().end() ? english : found->second;
 }
@@ -254,4 +417,12 @@ std::string HostText::fill(const std::string& english, const std::vector<std::st
     }
   }
   return text;
+}
+
+std::string HostText::help(const std::string& command) {
+  const auto found = helps().find(command);
+  if (found == helps().end()) {
+    throw std::invalid_argument("HostText::help(): no help for the command \"" + command + "\"");
+  }
+  return inUse() == Language::english ? found->second.first : found->second.second;
 }

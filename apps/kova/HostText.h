@@ -8,8 +8,9 @@
 // statuses) are the system's own and are printed as they are, whatever the language.
 //
 // A text is looked up by its English form, which is what the code reads; the table gives its
-// Portuguese form. "{1}", "{2}"... stand for the values a text is filled with, so that each
-// language puts them where its grammar wants them.
+// Portuguese form. The long help of a command is looked up by the command's name instead, so that
+// its English is written once, beside its Portuguese. "{1}", "{2}"... stand for the values a text
+// is filled with, so that each language puts them where its grammar wants them.
 class HostText {
  public:
   enum class Language { english, portuguese };
@@ -26,6 +27,9 @@ class HostText {
   static bool translated(const std::string& english);
   // of(english) with "{1}", "{2}"... replaced by values in their order.
   static std::string fill(const std::string& english, const std::vector<std::string>& values);
+  // The long help of the command of that name, for --help, in the language in use. Throws
+  // std::invalid_argument when the command has none.
+  static std::string help(const std::string& command);
 };
 
 // Short for HostText::of and HostText::fill at the places that print.

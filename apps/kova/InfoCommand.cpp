@@ -122,11 +122,7 @@ Command InfoCommand::describe() {
   return {"info",
           "kova info P.sjson [--elements]",
           tr("summarise a project and its scenarios"),
-          tr("Prints each scenario's kind, execution method and period, then its elements counted\n"
-             "by kind; with --elements, every element instead: its kind, name and id, the\n"
-             "capacity, minimum and initial volumes of a reservoir (hm³), the mean of a demand\n"
-             "(m³/s), the priority in a priority scenario and the release rule in a rule\n"
-             "scenario (\"-\" where the element has none).\n"),
+          HostText::help("info"),
           {{}, {}, {"elements"}, 1, 1},
           run};
 }

@@ -117,25 +117,13 @@ LoadedData measured(const std::shared_ptr<Scenario>& scenario, Category category
 }  // namespace
 
 Command MetricsCommand::describe() {
-  return {
-      "metrics",
-      "kova metrics P.sjson --scenario NAME [--window N | --windows all]\n"
-      "             [--elements all|reservoirs|demands] [--format table|csv|json]",
-      tr("performance metrics of a stored run"),
-      tr("Computes the metrics of the reservoirs and demands from the latest stored run of the\n"
-         "scenario, in window N (counted from 1, default 1); with --windows all, each metric over\n"
-         "every window: its minimum, 10th, 50th and 90th percentiles and maximum. Drains are left\n"
-         "out unless --elements all. A figure that has no meaning (a division by nothing, a "
-         "target\n"
-         "metric of a reservoir without target) is \"-\" (empty in csv, null in json).\n"
-         "Every output first names the scenario, the windows with their first and last dates and\n"
-         "the stored run's time stamp, and warns when the project's inputs were saved after it.\n"
-         "The table has one line per metric and one column per element; csv has one line per\n"
-         "element (the reservoirs' table, a blank line, then the demands'), behind '# ' lines;\n"
-         "json has {\"scenario\", \"windows\", \"first\", \"last\", \"storedRun\",\n"
-         "\"inputsNewerThanRun\", \"Reservatórios\": [...], \"Demandas\": [...]}.\n"),
-      {{"scenario", "window", "windows", "elements", "format"}, {}, {}, 1, 1},
-      run};
+  return {"metrics",
+          "kova metrics P.sjson --scenario NAME [--window N | --windows all]\n"
+          "             [--elements all|reservoirs|demands] [--format table|csv|json]",
+          tr("performance metrics of a stored run"),
+          HostText::help("metrics"),
+          {{"scenario", "window", "windows", "elements", "format"}, {}, {}, 1, 1},
+          run};
 }
 
 int MetricsCommand::run(const CommandLine& line, Console& console) {

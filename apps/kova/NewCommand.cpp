@@ -12,8 +12,7 @@ Command NewCommand::describe() {
   return {"new",
           "kova new P.sjson",
           tr("create a blank priority project"),
-          tr("Writes P.sjson and its database P.sjson.sqlite with one priority scenario without\n"
-             "elements over the months of the current year. P must not exist yet.\n"),
+          HostText::help("new"),
           {{}, {}, {}, 1, 1},
           run};
 }

@@ -54,18 +54,18 @@ std::string firstGap(const Scenario& scenario) {
 void requireReadableFile(const std::filesystem::path& path) {
   std::error_code error;
   if (!std::filesystem::exists(path, error)) {
-    throw std::runtime_error(path.string() + ": no such project file");
+    throw std::runtime_error(path.string() + ": " + tr("no such project file"));
   }
   if (!std::filesystem::is_regular_file(path, error)) {
-    throw std::runtime_error(path.string() + ": not a project file");
+    throw std::runtime_error(path.string() + ": " + tr("not a project file"));
   }
-  if (!std::ifstream(path)) throw std::runtime_error(path.string() + ": cannot be read");
+  if (!std::ifstream(path)) throw std::runtime_error(path.string() + ": " + tr("cannot be read"));
 }
 
 void requireWritableFile(const std::filesystem::path& path) {
   std::error_code error;
   if (std::filesystem::exists(path, error) && ::access(path.c_str(), W_OK) != 0) {
-    throw std::runtime_error(path.string() + ": cannot be written (no write permission)");
+    throw std::runtime_error(path.string() + ": " + tr("cannot be written (no write permission)"));
   }
 }
 
@@ -98,7 +98,7 @@ OpenProject::OpenProject(const std::filesystem::path& path, const Progress& prog
   }
   if (all.empty()) {
     ProjectFunctions::closeProject();
-    throw std::runtime_error(path.string() + ": the project has no scenario");
+    throw std::runtime_error(path.string() + ": " + tr("the project has no scenario"));
   }
   for (unsigned int i = 0; i < all.size(); ++i)
     ScenarioManager::getInstance().addScenery(i, all[i]);
@@ -112,8 +112,9 @@ std::shared_ptr<Scenario> OpenProject::scenario(const std::string& name) const {
     if (candidate->getName() == name) return candidate;
     names += (names.empty() ? "" : ", ") + quoted(candidate->getName());
   }
-  throw std::runtime_error(file.string() + ": no scenario named " + quoted(name) +
-                           " (scenarios: " + (names.empty() ? "none" : names) + ")");
+  throw std::runtime_error(file.string() + ": " +
+                           tr("no scenario named {1} (scenarios: {2})",
+                              {quoted(name), names.empty() ? tr("none") : names}));
 }
 
 std::vector<std::shared_ptr<Scenario>> OpenProject::select(
@@ -136,9 +137,10 @@ void OpenProject::loadLatestResults(const std::shared_ptr<Scenario>& scenario) c
   const auto hashes =
       DatabaseSearch::getHashesOfResultsByScenID(storage, scenario->getDatabaseId());
   if (hashes.empty()) {
-    throw std::runtime_error(file.string() + ": scenario " + quoted(scenario->getName()) +
-                             " has no stored results (run it first: kova run " + file.string() +
-                             " --scenario " + quoted(scenario->getName()) + ")");
+    throw std::runtime_error(
+        file.string() + ": " +
+        tr("scenario {1} has no stored results (run it first: kova run {2} --scenario {1})",
+           {quoted(scenario->getName()), file.string()}));
   }
   DatabaseProjectLoader::loadResultsByHash(storage, scenario, hashes.back());
   const std::string gap = firstGap(*scenario);

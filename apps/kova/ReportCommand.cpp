@@ -6,14 +6,12 @@
 #include "reports/GeneralSceneryReport.h"
 
 Command ReportCommand::describe() {
-  return {
-      "report",
-      "kova report P.sjson --scenario NAME",
-      tr("the general report of a scenario"),
-      tr("Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
-         "the volume each kind of demand requires over the scenario's period.\n"),
-      {{"scenario"}, {}, {}, 1, 1},
-      run};
+  return {"report",
+          "kova report P.sjson --scenario NAME",
+          tr("the general report of a scenario"),
+          HostText::help("report"),
+          {{"scenario"}, {}, {}, 1, 1},
+          run};
 }
 
 int ReportCommand::run(const CommandLine& line, Console& console) {

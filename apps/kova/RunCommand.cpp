@@ -22,21 +22,7 @@ Command RunCommand::describe() {
           "[--solver lpsolve|clp]\n"
           "         [--seed N] [--threads K]",
           tr("run scenarios and store their results"),
-          "Runs the named scenarios (all when none is named) one after the other, printing each\n"
-          "one's status. Results are stored in the project database unless --no-save; --csv DIR\n"
-          "also writes them as CSV files under DIR. Progress goes to standard error (none with\n"
-          "--quiet). Ctrl-C cancels the scenario running and leaves the database as it was.\n"
-          "--solver chooses the solver of the priority programmes for this run, whatever the\n"
-          "project names (lp_solve unless it names CLP).\n"
-          "A rule optimisation shows its progress per simulation, then prints its front (one row\n"
-          "per solution, the value of each objective function) and stores it in the project file\n"
-          "(and the files VAR and FUN beside it) unless --no-save; --seed N makes its swarm\n"
-          "draw the same numbers every run, --threads K evaluates its candidates on K threads\n"
-          "(default: the machine's cores), with the same front whatever K.\n"
-          "A guarantee curve, of a reservoir or of a system, prints its curve when it ends and\n"
-          "stores it likewise; --seed N repeats its search, and the swarms of a system curve\n"
-          "evaluate on --threads K with the same curve whatever K.\n"
-          "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
+          HostText::help("run"),
           {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
           run};
 }

@@ -8,14 +8,12 @@
 #include "ProgressReporter.h"
 
 Command SaveAsCommand::describe() {
-  return {
-      "save-as",
-      "kova save-as P.sjson Q.sjson [--quiet]",
-      tr("copy a project under another name"),
-      tr("Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
-         "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n"),
-      {{}, {}, {"quiet"}, 2, 2},
-      run};
+  return {"save-as",
+          "kova save-as P.sjson Q.sjson [--quiet]",
+          tr("copy a project under another name"),
+          HostText::help("save-as"),
+          {{}, {}, {"quiet"}, 2, 2},
+          run};
 }
 
 int SaveAsCommand::run(const CommandLine& line, Console& console) {

@@ -107,20 +107,13 @@ nlohmann::ordered_json toJson(const std::vector<Value>& values) {
 }  // namespace
 
 Command SeriesCommand::describe() {
-  return {
-      "series",
-      "kova series P.sjson --scenario NAME --element NAME [--kind K]... [--window N]\n"
-      "            [--format table|csv|json]",
-      tr("one element's input and result series of a stored run"),
-      tr("Prints the input series of the element and its result series from the latest stored\n"
-         "run of the scenario, over window N (counted from 1, default 1): one line per date and\n"
-         "series, with the columns date (YYYY-MM-DD), kind, direction (input or result), value\n"
-         "and unit. --kind keeps only the series of that name (\"Volume final\") or number (10);\n"
-         "it may be repeated. A missing value is \"-\" (empty in csv, null in json). csv\n"
-         "separates fields by ','; json is an array of {\"date\", \"kind\", \"direction\",\n"
-         "\"value\", \"unit\"}.\n"),
-      {{"scenario", "element", "window", "format"}, {"kind"}, {}, 1, 1},
-      run};
+  return {"series",
+          "kova series P.sjson --scenario NAME --element NAME [--kind K]... [--window N]\n"
+          "            [--format table|csv|json]",
+          tr("one element's input and result series of a stored run"),
+          HostText::help("series"),
+          {{"scenario", "element", "window", "format"}, {"kind"}, {}, 1, 1},
+          run};
 }
 
 int SeriesCommand::run(const CommandLine& line, Console& console) {

@@ -2,6 +2,7 @@
 
 #include "ExitStatus.h"
 #include "FrontTable.h"
+#include "HostText.h"
 #include "Interrupt.h"
 #include "OpenProject.h"
 #include "OptimisationRun.h"
@@ -26,16 +27,8 @@ unsigned int nextIndex() {
 Command SolutionCommand::describe() {
   return {"solution",
           "kova solution P.sjson --scenario NAME --row I",
-          "make the rule scenario of one row of a front or of a guarantee curve",
-          "Makes the rule scenario \"NAME-SOL-I\" out of row I of the stored front of the rule\n"
-          "optimisation NAME (the rows 'kova front' prints): the same network and period, run\n"
-          "continuously, each optimisable rule replaced by the simulation rule that the row's\n"
-          "decision variables give; 'kova run' then reproduces the row's objective values. For\n"
-          "a guarantee curve NAME it makes \"NAME-GUA-I\", in which each reservoir of the curve\n"
-          "releases its flow of row I ('kova curve') constantly. The scenario is saved into the\n"
-          "project.\n"
-          "Exit status: 0 made, 2 usage or file error (no such row, the scenario exists), 3\n"
-          "cancelled.\n",
+          tr("make the rule scenario of one row of a front or of a guarantee curve"),
+          HostText::help("solution"),
           {{"scenario", "row"}, {}, {}, 1, 1},
           run};
 }
@@ -44,11 +37,13 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
   Interrupt::Guard interruptible;
   OpenProject project(line.positional(0), nullptr, OpenProject::Access::readWrite);
   const auto scenario = project.scenario(line.required("scenario"));
-  if (!line.has("row")) throw UsageError("option --row is required");
+  if (!line.has("row")) throw UsageError(tr("option --{1} is required", {"row"}));
   if (dynamic_cast<const SystemGuaranteeCurveScenario*>(scenario.get())) {
-    throw UsageError("scenario \"" + scenario->getName() +
-                     "\" is a system guarantee curve, which keeps the flow of its out reservoir "
-                     "but not the rules upstream that gave it: no rule scenario is made from it");
+    throw UsageError(
+        tr("scenario \"{1}\" is a system guarantee curve, which keeps the flow of "
+           "its out reservoir but not the rules upstream that gave it: no rule "
+           "scenario is made from it",
+           {scenario->getName()}));
   }
   const auto* curve = dynamic_cast<const GuaranteeCurveScenario*>(scenario.get());
   const std::size_t rows =
@@ -56,14 +51,16 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
             : FrontTable::optimisationOf(*scenario).getMatrixOfSolutions().size();
   const unsigned long row = line.number("row", 0, 0);
   if (row >= rows) {
-    throw UsageError("option --row: scenario \"" + scenario->getName() + "\" has " +
-                     std::to_string(rows) + " row(s) in its stored " + (curve ? "curve" : "front") +
-                     (rows ? ", rows 0 to " + std::to_string(rows - 1) : std::string()));
+    const std::vector<std::string> values = {scenario->getName(), std::to_string(rows)};
+    throw UsageError(
+        (curve ? tr("option --row: scenario \"{1}\" has {2} row(s) in its stored curve", values)
+               : tr("option --row: scenario \"{1}\" has {2} row(s) in its stored front", values)) +
+        (rows ? tr(", rows 0 to {1}", {std::to_string(rows - 1)}) : std::string()));
   }
   const std::string name = scenario->getName() + (curve ? "-GUA-" : "-SOL-") + std::to_string(row);
   for (const auto& other : project.scenarios()) {
     if (other->getName() == name) {
-      throw UsageError("the project already has a scenario named \"" + name + "\"");
+      throw UsageError(tr("the project already has a scenario named \"{1}\"", {name}));
     }
   }
   const auto goOn = [](long, long) { return !Interrupt::requested(); };
@@ -75,7 +72,8 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
   if (!made) return exitCancelled;
   ScenarioManager::getInstance().addScenery(nextIndex(), made);
   OptimisationRun::storeOutput(project, "scenario " + name);
-  console.out << name << ": made from row " << row << " of \"" << scenario->getName()
-              << "\" and saved\n";
+  console.out << tr("{1}: made from row {2} of \"{3}\" and saved",
+                    {name, std::to_string(row), scenario->getName()})
+              << '\n';
   return exitOk;
 }

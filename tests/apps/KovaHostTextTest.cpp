@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <set>
+#include <cctype>
+#include <filesystem>
+#include <stdexcept>
 #include <string>
 
+#include "ExitStatus.h"
 #include "HostText.h"
 #include "KovaApp.h"
 #include "KovaProcess.h"
+#include "support/FileText.h"
+#include "support/TemporaryFolder.h"
 
 namespace {
 
@@ -14,6 +19,38 @@ std::string kovaUnder(const std::vector<std::string>& locale,
                       const std::vector<std::string>& args) {
   const Outcome run = kovaProcess(args, ProcessOptions::under(locale));
   return run.out + run.err;
+}
+
+// The text of the string literals that follow at, joined as the compiler joins them; at is left
+// after the last.
+std::string literalsAt(const std::string& source, std::size_t& at) {
+  std::string text;
+  while (true) {
+    while (at < source.size() && std::isspace(static_cast<unsigned char>(source[at]))) ++at;
+    if (at >= source.size() || source[at] != '"') return text;
+    for (++at; at < source.size() && source[at] != '"'; ++at) {
+      if (source[at] != '\\') {
+        text += source[at];
+        continue;
+      }
+      const char escaped = source[++at];
+      text += escaped == 'n' ? '\n' : escaped;
+    }
+    ++at;
+  }
+}
+
+// Every text that a source file of the host puts through tr() as a literal.
+std::vector<std::string> textsGivenToTr(const std::string& source) {
+  std::vector<std::string> texts;
+  for (std::size_t at = source.find("tr("); at != std::string::npos; at = source.find("tr(", at)) {
+    const bool call = at == 0 || !(std::isalnum(static_cast<unsigned char>(source[at - 1])) ||
+                                   source[at - 1] == '_');
+    at += 3;
+    const std::string text = call ? literalsAt(source, at) : "";
+    if (!text.empty()) texts.push_back(text);
+  }
+  return texts;
 }
 
 }  // namespace
@@ -48,19 +85,77 @@ TEST(HostText, TheHostSpeaksTheLanguageOfTheLocale) {
             "kova: unknown command \"simulate\"; try 'kova --help'\n");
 }
 
-// The commands that look at projects and make them have their one-line summary and their help in
-// both languages.
-TEST(HostText, TheCommandsSummariesAndHelpHaveTheirPortuguese) {
+// Every command has its one-line summary and its long help in both languages.
+TEST(HostText, EveryCommandHasItsSummaryAndHelpInPortuguese) {
   HostText::use(HostText::Language::english);
-  const std::set<std::string> translated = {"info",    "check",  "metrics", "series",
-                                            "compare", "report", "export",  "new",
-                                            "save-as", "demo",   "generate"};
-  std::size_t found = 0;
   for (const auto& command : KovaApp::commands()) {
-    if (translated.count(command.name) == 0) continue;
-    ++found;
-    EXPECT_TRUE(HostText::translated(command.summary)) << command.name;
-    EXPECT_TRUE(HostText::translated(command.details)) << command.name;
+    SCOPED_TRACE(command.name);
+    EXPECT_TRUE(HostText::translated(command.summary));
+    EXPECT_EQ(HostText::help(command.name), command.details);
+    HostText::use(HostText::Language::portuguese);
+    EXPECT_NE(HostText::help(command.name), command.details);
+    HostText::use(HostText::Language::english);
   }
-  EXPECT_EQ(found, translated.size());
+  try {
+    HostText::help("simulate");
+    ADD_FAILURE() << "no throw";
+  } catch (const std::invalid_argument& error) {
+    EXPECT_STREQ(error.what(), "HostText::help(): no help for the command \"simulate\"");
+  }
+}
+
+// A text put through tr() without its Portuguese would be printed in English to a Portuguese user.
+TEST(HostText, EveryTextTheHostTranslatesHasItsPortuguese) {
+  // The demo's data are examples/sao_francisco in the source tree.
+  const auto sources = std::filesystem::path(KOVA_DEMO_DATA) / ".." / ".." / "apps" / "kova";
+  std::size_t texts = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(sources)) {
+    const auto extension = entry.path().extension();
+    if (extension != ".cpp" && extension != ".h") continue;
+    for (const auto& text : textsGivenToTr(readFile(entry.path().string()))) {
+      ++texts;
+      EXPECT_TRUE(HostText::translated(text)) << entry.path().filename() << ": " << text;
+    }
+  }
+  EXPECT_GT(texts, 0u);
+}
+
+// The messages of front, curve and solution, of the command line and of opening a project, run
+// as real processes on the demo over 1931-1933.
+TEST(HostText, TheCommandsMessagesFollowTheLocale) {
+  const TemporaryFolder folder("kova_host_text_");
+  ASSERT_EQ(kovaProcess({"demo", folder.file("D"), "--until", "1933", "--quiet"}).status, exitOk);
+  const std::string project = folder.file("D/sao_francisco.sjson");
+  const std::vector<std::string> pt = {"LANG=pt_BR.UTF-8"}, en = {"LANG=C"};
+
+  const std::vector<std::string> curve = {"curve", project, "--scenario", "Curva de garantia"};
+  EXPECT_EQ(kovaProcess(curve, ProcessOptions::under(pt)).status, exitFindings);
+  EXPECT_EQ(kovaUnder(pt, curve),
+            "kova curve: o cenário \"Curva de garantia\" não tem curva gravada; execute-o com "
+            "'kova run'\n");
+  EXPECT_EQ(kovaUnder(en, curve),
+            "kova curve: scenario \"Curva de garantia\" has no stored curve; run it with "
+            "'kova run'\n");
+
+  EXPECT_EQ(kovaUnder(pt, {"front", project, "--scenario", "Regras"}),
+            "kova front: o cenário \"Regras\" é um cenário \"Simulador por regras\", não uma "
+            "otimização de regras (\"Otimizador de regras\")\n");
+  EXPECT_EQ(kovaUnder(pt, {"solution", project, "--scenario", "Curva de garantia", "--row", "0"}),
+            "kova solution: opção --row: o cenário \"Curva de garantia\" tem 0 linha(s) em sua "
+            "curva gravada; tente 'kova solution --help'\n");
+  EXPECT_EQ(kovaProcess({"run", project, "--scenario", "Curva de garantia", "--quiet"}).status,
+            exitOk);
+  EXPECT_EQ(kovaUnder(pt, {"solution", project, "--scenario", "Curva de garantia", "--row", "0"}),
+            "Curva de garantia-GUA-0: criado a partir da linha 0 de \"Curva de garantia\" e "
+            "gravado\n");
+
+  EXPECT_EQ(kovaUnder(pt, {"info", project, "--all"}),
+            "kova info: opção desconhecida --all; tente 'kova info --help'\n");
+  EXPECT_EQ(kovaUnder(en, {"info", project, "--all"}),
+            "kova info: unknown option --all; try 'kova info --help'\n");
+  EXPECT_EQ(kovaUnder(pt, {"metrics", project, "--scenario", "Regras", "--window", "0"}),
+            "kova metrics: opção --window: \"0\" não é um número inteiro de pelo menos 1; tente "
+            "'kova metrics --help'\n");
+  EXPECT_EQ(kovaUnder(pt, {"report", folder.file("none.sjson"), "--scenario", "Regras"}),
+            "kova report: " + folder.file("none.sjson") + ": arquivo de projeto inexistente\n");
 }

@@ -21,7 +21,7 @@ std::vector<Category> categoriesNamed(const std::string& name) {
   if (name == "all" || name == "default") return {Category::reservoir, Category::demand};
   if (name == "reservoirs") return {Category::reservoir};
   if (name == "demands") return {Category::demand};
-  throw UsageError("option --elements: \"" + name + "\" is not one of all, reservoirs, demands");
+  throw UsageError(tr("option --elements: \"{1}\" is not one of all, reservoirs, demands", {name}));
 }
 
 // One metric of one element in each scenario; empty values are -999.
@@ -166,15 +166,15 @@ int CompareCommand::run(const CommandLine& line, Console& console) {
   const std::string elements = line.value("elements", "default");
   const auto categories = categoriesNamed(elements);
   const auto names = line.values("scenario");
-  if (names.size() < 2) throw UsageError("option --scenario: name two scenarios or more");
+  if (names.size() < 2) throw UsageError(tr("option --scenario: name two scenarios or more"));
   OpenProject project(line.positional(0));
   const auto scenarios = project.select(names);
   const unsigned long window = line.number("window", 1, 1);
   for (const auto& scenario : scenarios) {
     const std::size_t windows = scenario->calcVectorOfIntervals().size();
     if (window > windows) {
-      throw UsageError("option --window: scenario \"" + scenario->getName() + "\" has " +
-                       std::to_string(windows) + " window(s)");
+      throw UsageError(tr("option --window: scenario \"{1}\" has {2} window(s)",
+                          {scenario->getName(), std::to_string(windows)}));
     }
     project.loadLatestResults(scenario);
     const StoredRun run = StoredRun::latest(scenario, project.path());

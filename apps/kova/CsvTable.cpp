@@ -3,6 +3,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "HostText.h"
 #include "common/StringUtils.h"
 
 namespace {
@@ -27,18 +28,19 @@ std::vector<std::string> fieldsOf(const std::string& line) {
 
 CsvTable::CsvTable(const std::filesystem::path& path) : path(path) {
   std::ifstream file(path);
-  if (!file) throw std::runtime_error(path.string() + ": cannot be read");
+  if (!file) throw std::runtime_error(path.string() + ": " + tr("cannot be read"));
   std::string line;
-  if (!std::getline(file, line)) throw std::runtime_error(path.string() + ": empty file");
+  if (!std::getline(file, line)) throw std::runtime_error(path.string() + ": " + tr("empty file"));
   headings = fieldsOf(StringUtils::trim(line));
   for (std::size_t number = 2; std::getline(file, line); ++number) {
     line = StringUtils::trim(line);
     if (line.empty()) continue;
     cells.push_back(fieldsOf(line));
     if (cells.back().size() != headings.size()) {
-      throw std::runtime_error(path.string() + ": line " + std::to_string(number) + " has " +
-                               std::to_string(cells.back().size()) + " fields, the header " +
-                               std::to_string(headings.size()));
+      throw std::runtime_error(path.string() + ": " +
+                               tr("line {1} has {2} fields, the header {3}",
+                                  {std::to_string(number), std::to_string(cells.back().size()),
+                                   std::to_string(headings.size())}));
     }
   }
 }
@@ -47,7 +49,7 @@ std::size_t CsvTable::column(const std::string& heading) const {
   for (std::size_t i = 0; i < headings.size(); ++i) {
     if (headings[i] == heading) return i;
   }
-  throw std::runtime_error(path.string() + ": no column \"" + heading + "\"");
+  throw std::runtime_error(path.string() + ": " + tr("no column \"{1}\"", {heading}));
 }
 
 const std::string& CsvTable::text(std::size_t row, std::size_t column) const {
@@ -59,9 +61,9 @@ double CsvTable::number(std::size_t row, std::size_t column) const {
   try {
     return StringUtils::stdStringToDouble(field);
   } catch (const std::exception&) {
-    throw std::runtime_error(path.string() + ": \"" + field + "\" in column \"" +
-                             headings.at(column) + "\", line " + std::to_string(row + 2) +
-                             ", is not a number");
+    throw std::runtime_error(path.string() + ": " +
+                             tr("\"{1}\" in column \"{2}\", line {3}, is not a number",
+                                {field, headings.at(column), std::to_string(row + 2)}));
   }
 }
 
@@ -69,5 +71,5 @@ std::size_t CsvTable::rowOf(const std::string& key) const {
   for (std::size_t row = 0; row < cells.size(); ++row) {
     if (cells[row].front() == key) return row;
   }
-  throw std::runtime_error(path.string() + ": no line for \"" + key + "\"");
+  throw std::runtime_error(path.string() + ": " + tr("no line for \"{1}\"", {key}));
 }

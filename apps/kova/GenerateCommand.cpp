@@ -69,25 +69,25 @@ GeneratedProjectOptions GenerateCommand::optionsOf(const CommandLine& line) {
   const std::string layout = line.value("layout", "tree");
   const auto shape = layouts().find(layout);
   if (shape == layouts().end()) {
-    throw UsageError("option --layout: \"" + layout + "\" is neither tree nor chain");
+    throw UsageError(tr("option --layout: \"{1}\" is neither tree nor chain", {layout}));
   }
   options.layout = shape->second;
   const bool chain = options.layout == GeneratedLayout::chain;
   const std::string mode = line.value("mode", chain ? "priority" : "rule");
   const auto found = modes().find(mode);
   if (found == modes().end()) {
-    throw UsageError("option --mode: \"" + mode + "\" is neither rule nor priority");
+    throw UsageError(tr("option --mode: \"{1}\" is neither rule nor priority", {mode}));
   }
   options.mode = found->second;
   if (chain && options.mode != GeneratedMode::priority) {
-    throw UsageError("option --mode: a chain is operated by priorities");
+    throw UsageError(tr("option --mode: a chain is operated by priorities"));
   }
   options.ownPriorities = line.has("own-priorities");
   if (options.ownPriorities && !chain) {
-    throw UsageError("option --own-priorities: only with --layout chain");
+    throw UsageError(tr("option --own-priorities: only with --layout chain"));
   }
   if (options.ownPriorities && options.reservoirs + options.demands > 98) {
-    throw UsageError("option --own-priorities: at most 98 reservoirs and demands");
+    throw UsageError(tr("option --own-priorities: at most 98 reservoirs and demands"));
   }
   options.seed = line.number("seed", 1, 0);
   return options;
@@ -98,8 +98,8 @@ unsigned int GenerateCommand::bounded(const CommandLine& line, const std::string
   line.required(name);  // absent: a UsageError
   const unsigned long value = line.number(name, minimum, minimum);
   if (value > maximum) {
-    throw UsageError("option --" + name + ": " + std::to_string(value) + " is more than " +
-                     std::to_string(maximum));
+    throw UsageError(tr("option --{1}: {2} is more than {3}",
+                        {name, std::to_string(value), std::to_string(maximum)}));
   }
   return static_cast<unsigned int>(value);
 }

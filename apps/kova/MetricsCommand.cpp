@@ -24,7 +24,7 @@ Selection selectionNamed(const std::string& name) {
   if (name == "all") return {{reservoirs, demands}, true};
   if (name == "reservoirs") return {{reservoirs}, false};
   if (name == "demands") return {{demands}, false};
-  throw UsageError("option --elements: \"" + name + "\" is not one of all, reservoirs, demands");
+  throw UsageError(tr("option --elements: \"{1}\" is not one of all, reservoirs, demands", {name}));
 }
 
 // Which windows the command measures: one, or all of them summarised.
@@ -39,9 +39,10 @@ Windows windowsAsked(const CommandLine& line, const Scenario& scenario) {
   Windows windows;
   windows.count = scenario.calcVectorOfIntervals().size();
   if (line.has("windows")) {
-    if (line.has("window")) throw UsageError("options --window and --windows exclude each other");
+    if (line.has("window"))
+      throw UsageError(tr("options --window and --windows exclude each other"));
     if (line.value("windows", "") != "all") {
-      throw UsageError("option --windows: \"" + line.value("windows", "") + "\" is not all");
+      throw UsageError(tr("option --windows: \"{1}\" is not all", {line.value("windows", "")}));
     }
     windows.summary = true;
     windows.last = windows.count - 1;
@@ -49,8 +50,8 @@ Windows windowsAsked(const CommandLine& line, const Scenario& scenario) {
   }
   const unsigned long window = line.number("window", 1, 1);
   if (window > windows.count) {
-    throw UsageError("option --window: scenario \"" + scenario.getName() + "\" has " +
-                     std::to_string(windows.count) + " window(s)");
+    throw UsageError(tr("option --window: scenario \"{1}\" has {2} window(s)",
+                        {scenario.getName(), std::to_string(windows.count)}));
   }
   windows.first = windows.last = window - 1;
   return windows;

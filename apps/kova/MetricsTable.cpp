@@ -5,6 +5,7 @@
 #include <iomanip>
 #include <sstream>
 
+#include "HostText.h"
 #include "UsageError.h"
 #include "core/ElementSets.h"
 #include "core/NetworkUtils.h"
@@ -115,7 +116,7 @@ MetricsTable::Format MetricsTable::formatNamed(const std::string& name) {
   if (name == "table") return Format::table;
   if (name == "csv") return Format::csv;
   if (name == "json") return Format::json;
-  throw UsageError("option --format: \"" + name + "\" is not one of table, csv, json");
+  throw UsageError(tr("option --format: \"{1}\" is not one of table, csv, json", {name}));
 }
 
 LoadedData MetricsTable::make(const std::shared_ptr<Scenario>& scenario,

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
+#include "HostText.h"
 #include "managers/ProjectFunctions.h"
 #include "project/database/LoadProject.h"
 #include "project/database/SQLStorage.h"
@@ -36,17 +37,17 @@ std::filesystem::path databaseOf(const std::filesystem::path& path) {
 void NewProjectTarget::require(const std::filesystem::path& path) {
   std::error_code error;
   if (std::filesystem::exists(path, error)) {
-    throw std::runtime_error(path.string() + ": already exists (choose another name)");
+    throw std::runtime_error(path.string() + ": " + tr("already exists (choose another name)"));
   }
   // A database without its project file may be what an interrupted save of another program
   // left; it is named, never removed.
   const auto database = databaseOf(path);
   if (std::filesystem::exists(database, error)) {
-    throw std::runtime_error(database.string() + ": already exists (choose another name)");
+    throw std::runtime_error(database.string() + ": " + tr("already exists (choose another name)"));
   }
   const auto folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
   if (!std::filesystem::is_directory(folder, error)) {
-    throw std::runtime_error(folder.string() + ": no such folder");
+    throw std::runtime_error(folder.string() + ": " + tr("no such folder"));
   }
 }
 
@@ -104,8 +105,8 @@ bool NewProjectTarget::writeInPlace(const std::filesystem::path& path,
   if (error) {
     discard(partial);
     discard(path);
-    throw std::runtime_error(path.string() + ": could not be put in place (" + error.message() +
-                             ")");
+    throw std::runtime_error(path.string() + ": " +
+                             tr("could not be put in place ({1})", {error.message()}));
   }
   return true;
 }
@@ -115,6 +116,7 @@ void NewProjectTarget::requireComplete(const std::filesystem::path& written,
   std::ifstream file(written);
   // A full disk lets the project file be cut short without the writer knowing.
   if (!file || !nlohmann::json::accept(file)) {
-    throw std::runtime_error(path.string() + ": could not be written completely (disk full?)");
+    throw std::runtime_error(path.string() + ": " +
+                             tr("could not be written completely (disk full?)"));
   }
 }

@@ -33,8 +33,8 @@ int RunCommand::run(const CommandLine& line, Console& console) {
   if (line.has("csv")) CSVWriteFile::requireWritableFolder(line.value("csv", ""));
   const std::string solver = line.value("solver", "");
   if (line.has("solver") && !LinearProgramSolverFactory::has(solver)) {
-    throw UsageError("--solver: unknown solver \"" + solver + "\", expected " +
-                     LinearProgramSolverFactory::keysText());
+    throw UsageError(tr("--solver: unknown solver \"{1}\", expected {2}",
+                        {solver, LinearProgramSolverFactory::keysText()}));
   }
   OpenProject project(
       line.positional(0), progress.callback(tr("opening"), ProgressReporter::Form::steps),

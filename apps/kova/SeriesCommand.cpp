@@ -30,8 +30,8 @@ std::shared_ptr<Element> elementNamed(const Scenario& scenario, const std::strin
   for (const auto& element : scenario.getElements()) {
     if (element->getName() == name) return element;
   }
-  throw std::runtime_error("scenario \"" + scenario.getName() + "\" has no element named \"" +
-                           name + "\"");
+  throw std::runtime_error(
+      tr("scenario \"{1}\" has no element named \"{2}\"", {scenario.getName(), name}));
 }
 
 // Whether a series answers to one of the kinds asked, by name or by number; all when none asked.
@@ -124,8 +124,8 @@ int SeriesCommand::run(const CommandLine& line, Console& console) {
   const auto windows = scenario->calcVectorOfIntervals();
   const unsigned long window = line.number("window", 1, 1);
   if (window > windows.size()) {
-    throw UsageError("option --window: scenario \"" + scenario->getName() + "\" has " +
-                     std::to_string(windows.size()) + " window(s)");
+    throw UsageError(tr("option --window: scenario \"{1}\" has {2} window(s)",
+                        {scenario->getName(), std::to_string(windows.size())}));
   }
   project.loadLatestResults(scenario);
   const StoredRun run = StoredRun::latest(scenario, project.path());
@@ -147,7 +147,7 @@ int SeriesCommand::run(const CommandLine& line, Console& console) {
     }
   }
   if (values.empty() && !kinds.empty()) {
-    throw UsageError("option --kind: element \"" + element->getName() + "\" has no such series");
+    throw UsageError(tr("option --kind: element \"{1}\" has no such series", {element->getName()}));
   }
   if (format == MetricsTable::Format::table) printTable(values, console.out);
   if (format == MetricsTable::Format::csv) printCsv(values, console.out);

@@ -6,6 +6,7 @@
 #include <ctime>
 #include <stdexcept>
 
+#include "HostText.h"
 #include "core/Scenario.h"
 #include "project/database/DatabaseException.h"
 #include "project/database/DatabaseSearch.h"
@@ -55,7 +56,7 @@ StoredRun StoredRun::latest(const std::shared_ptr<Scenario>& scenario,
   const auto hashes =
       DatabaseSearch::getHashesOfResultsByScenID(storage, scenario->getDatabaseId());
   if (hashes.empty()) {
-    throw std::runtime_error("scenario \"" + scenario->getName() + "\" has no stored results");
+    throw std::runtime_error(tr("scenario \"{1}\" has no stored results", {scenario->getName()}));
   }
   return DatabaseException::guard([&] {
     const std::string stamp = runTimeStamp(storage, hashes.back());

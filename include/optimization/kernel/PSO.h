@@ -55,12 +55,6 @@ class PSO : public Algorithm {
   double r1Min = 0.0;
   double r2Max = 1.0;
   double r2Min = 0.0;
-  double C1Max = 1.5;
-  double C1Min = 1.5;
-  double C2Max = 1.5;
-  double C2Min = 1.5;
-  double WMax = 0.9;
-  double WMin = 0.9;
   double ChVel1 = 1.0;
   double ChVel2 = 1.0;
   double* deltaMax = nullptr;

@@ -97,6 +97,8 @@ std::size_t width(const std::string& text) {
 void printTable(const std::vector<std::string>& heads, const std::vector<Line>& lines,
                 std::ostream& out) {
   std::vector<std::vector<std::string>> rows = {heads};
+  rows.front()[0] = tr("element");
+  rows.front()[1] = tr("metric");
   for (const auto& line : lines) {
     auto fields = fieldsOf(line);
     for (std::size_t i = 2; i < fields.size(); ++i) fields[i] = fields[i].empty() ? "-" : fields[i];

@@ -69,6 +69,7 @@ void CurveTable::findMissing(const std::vector<double>& asked) {
 
 void CurveTable::printTable(std::ostream& out) const {
   std::vector<std::vector<std::string>> lines = {header()};
+  lines.front().front() = tr("guarantee");
   for (std::size_t row = 0; row < levels.size(); ++row) {
     lines.push_back(fields(row, 10));
     if (isQ90(levels[row])) lines.back().front() += " (Q90)";

@@ -22,7 +22,8 @@ class CurveTable {
   static CurveTable of(const Scenario& scenario);
 
   bool empty() const { return levels.empty(); }
-  // Aligned columns, releases in 10 significant digits; the level 90 is marked "90 (Q90)".
+  // Aligned columns, releases in 10 significant digits; the level 90 is marked "90 (Q90)". The
+  // first heading is in the user's language.
   void printTable(std::ostream& out) const;
   // "guarantee" and one column per reservoir, releases in 17 significant digits.
   void printCsv(std::ostream& out) const;

@@ -45,6 +45,7 @@ std::vector<std::string> FrontTable::fields(std::size_t row, int digits) const {
 
 void FrontTable::printTable(std::ostream& out) const {
   std::vector<std::vector<std::string>> lines = {header()};
+  lines.front().front() = tr("row");
   for (std::size_t row = 0; row < objectives.size(); ++row) lines.push_back(fields(row, 10));
   TextColumns::printAligned(lines, out);
 }

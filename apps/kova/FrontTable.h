@@ -20,7 +20,7 @@ class FrontTable {
   static RuleOptimizationScenario& optimisationOf(Scenario& scenario);
 
   bool empty() const { return objectives.empty(); }
-  // Aligned columns, values in 10 significant digits.
+  // Aligned columns, values in 10 significant digits; the first heading in the user's language.
   void printTable(std::ostream& out) const;
   // A header line, then one line per solution, fields separated by ','; values in 17 significant
   // digits, enough to give back the very same doubles.

@@ -190,6 +190,23 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"\"{1}\" in column \"{2}\", line {3}, is not a number",
        "\"{1}\" na coluna \"{2}\", linha {3}, não é um número"},
       {"no line for \"{1}\"", "nenhuma linha para \"{1}\""},
+      {"date", "data"},
+      {"direction", "sentido"},
+      {"value", "valor"},
+      {"unit", "unidade"},
+      {"input", "entrada"},
+      {"result", "resultado"},
+      {"element", "elemento"},
+      {"metric", "métrica"},
+      {"row", "linha"},
+      {"guarantee", "garantia"},
+      {"scenario: {1}", "cenário: {1}"},
+      {"windows: {1}, {2} to {3}", "janelas: {1}, de {2} a {3}"},
+      {"{1} of {2}", "{1} de {2}"},
+      {"all {1}", "todas as {1}"},
+      {"stored run: {1}", "execução gravada: {1}"},
+      {"warning: the project's inputs were saved after this run",
+       "aviso: as entradas do projeto foram gravadas depois desta execução"},
   };
   return table;
 }

@@ -63,6 +63,7 @@ std::string isoDate(const Date& date) { return date.toString("%Y-%m-%d"); }
 struct Heading {
   std::string scenario;
   std::string windows;  // "1 of 88" or "all 88"
+  std::string windowsRead;  // the same in the user's language
   std::string firstDate;
   std::string lastDate;
   std::string run;
@@ -71,23 +72,34 @@ struct Heading {
 
 Heading headingOf(const Scenario& scenario, const Windows& windows, const StoredRun& run) {
   const auto intervals = scenario.calcVectorOfIntervals();
+  const std::string count = std::to_string(windows.count);
+  const std::string first = std::to_string(windows.first + 1);
   return {scenario.getName(),
-          windows.summary ? "all " + std::to_string(windows.count)
-                          : std::to_string(windows.first + 1) + " of " + std::to_string(windows.count),
+          windows.summary ? "all " + count : first + " of " + count,
+          windows.summary ? tr("all {1}", {count}) : tr("{1} of {2}", {first, count}),
           isoDate(intervals[windows.first].getBegin()),
           isoDate(intervals[windows.last].getEnd()),
           run.getTimeStamp(),
           run.inputsAreNewer()};
 }
 
+// The csv's heading is read by programs and stays in English; the table's by people, in their
+// language.
 void printHeading(const Heading& heading, MetricsTable::Format format, std::ostream& out) {
-  const std::string mark = format == MetricsTable::Format::csv ? "# " : "";
-  out << mark << "scenario: " << heading.scenario << '\n'
-      << mark << "windows: " << heading.windows << ", " << heading.firstDate << " to "
-      << heading.lastDate << '\n'
-      << mark << "stored run: " << heading.run << '\n';
-  if (heading.stale) out << mark << "warning: the project's inputs were saved after this run\n";
-  out << (format == MetricsTable::Format::csv ? "" : "\n");
+  if (format == MetricsTable::Format::csv) {
+    out << "# scenario: " << heading.scenario << '\n'
+        << "# windows: " << heading.windows << ", " << heading.firstDate << " to "
+        << heading.lastDate << '\n'
+        << "# stored run: " << heading.run << '\n';
+    if (heading.stale) out << "# warning: the project's inputs were saved after this run\n";
+    return;
+  }
+  out << tr("scenario: {1}", {heading.scenario}) << '\n'
+      << tr("windows: {1}, {2} to {3}", {heading.windowsRead, heading.firstDate, heading.lastDate})
+      << '\n'
+      << tr("stored run: {1}", {heading.run}) << '\n';
+  if (heading.stale) out << tr("warning: the project's inputs were saved after this run") << '\n';
+  out << '\n';
 }
 
 nlohmann::ordered_json headingJson(const Heading& heading) {

@@ -58,11 +58,14 @@ std::string shown(double value) {
   return text.str();
 }
 
+// The table is read by people, in their language; csv and json keep the words programs read.
 void printTable(const std::vector<Value>& values, std::ostream& out) {
-  std::vector<std::vector<std::string>> lines = {{"date", "kind", "direction", "value", "unit"}};
+  std::vector<std::vector<std::string>> lines = {
+      {tr("date"), tr("kind"), tr("direction"), tr("value"), tr("unit")}};
   for (const auto& v : values) {
     const std::string number = shown(v.value);
-    lines.push_back({v.date, v.kind, v.direction, number.empty() ? "-" : number, v.unit});
+    const std::string direction = v.direction == "input" ? tr("input") : tr("result");
+    lines.push_back({v.date, v.kind, direction, number.empty() ? "-" : number, v.unit});
   }
   std::vector<std::size_t> widths(5, 0);
   const auto width = [](const std::string& text) {

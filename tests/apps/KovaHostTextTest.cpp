@@ -143,8 +143,18 @@ TEST(HostText, TheCommandsMessagesFollowTheLocale) {
   EXPECT_EQ(kovaUnder(pt, {"solution", project, "--scenario", "Curva de garantia", "--row", "0"}),
             "kova solution: opção --row: o cenário \"Curva de garantia\" tem 0 linha(s) em sua "
             "curva gravada; tente 'kova solution --help'\n");
-  EXPECT_EQ(kovaProcess({"run", project, "--scenario", "Curva de garantia", "--quiet"}).status,
+  EXPECT_EQ(kovaProcess({"run", project, "--scenario", "Curva de garantia", "--scenario", "Regras",
+                         "--quiet"})
+                .status,
             exitOk);
+  // Headings of tables are read by people; those of csv by programs.
+  EXPECT_EQ(kovaUnder(pt, curve).rfind("garantia  Três Marias", 0), 0u);
+  EXPECT_EQ(kovaUnder(pt, {"curve", project, "--scenario", "Curva de garantia", "--format", "csv"})
+                .rfind("guarantee,Três Marias", 0),
+            0u);
+  EXPECT_EQ(kovaUnder(pt, {"metrics", project, "--scenario", "Regras"})
+                .rfind("cenário: Regras\njanelas: 1 de 1, de 1931-01-01 a 1933-12-01\n", 0),
+            0u);
   EXPECT_EQ(kovaUnder(pt, {"solution", project, "--scenario", "Curva de garantia", "--row", "0"}),
             "Curva de garantia-GUA-0: criado a partir da linha 0 de \"Curva de garantia\" e "
             "gravado\n");

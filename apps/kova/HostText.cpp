@@ -190,6 +190,7 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"\"{1}\" in column \"{2}\", line {3}, is not a number",
        "\"{1}\" na coluna \"{2}\", linha {3}, não é um número"},
       {"no line for \"{1}\"", "nenhuma linha para \"{1}\""},
+      {"{1}: no feasible allocation on {2}", "{1}: nenhuma alocação viável em {2}"},
       {"date", "data"},
       {"direction", "sentido"},
       {"value", "valor"},

@@ -1,5 +1,6 @@
 #include "ScenarioFindings.h"
 
+#include "HostText.h"
 #include "checks/SceneryCheck.h"
 #include "scenario/PriorityScenario.h"
 
@@ -25,8 +26,9 @@ std::size_t ScenarioFindings::printLast(const Scenario& scenario, std::ostream& 
   }
   const auto* priority = dynamic_cast<const PriorityScenario*>(&scenario);
   if (priority && priority->getInfeasibleDate()) {
-    out << scenario.getName() << ": no feasible allocation on "
-        << priority->getInfeasibleDate()->toString("%d-%m-%Y") << '\n';
+    out << tr("{1}: no feasible allocation on {2}",
+              {scenario.getName(), priority->getInfeasibleDate()->toString("%d-%m-%Y")})
+        << '\n';
     ++printed;
   }
   return printed;

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "CsvTable.h"
+#include "HostText.h"
 #include "NewProjectTarget.h"
 #include "ScenarioFindings.h"
 #include "common/PeriodWalker.h"
@@ -67,8 +68,8 @@ struct DemoData {
   Interval record(unsigned int lastYear) const {
     const Date end = std::min(month(inflows.rows() - 1), Date(lastYear, 12, 1));
     if (end < month(0)) {
-      throw std::runtime_error("the inflow record starts in " + inflows.text(0, 0) + ", after " +
-                               std::to_string(lastYear));
+      throw std::runtime_error(tr("the inflow record starts in {1}, after {2}",
+                                  {inflows.text(0, 0), std::to_string(lastYear)}));
     }
     return Interval(month(0), end, Vocabulary::of(Periodicity::monthly));
   }
@@ -486,7 +487,8 @@ std::map<std::string, double> storageAtTheEnd(const std::shared_ptr<Scenario>& r
   if (!rules->run(nullptr)) {
     std::ostringstream findings;
     ScenarioFindings::printLast(*rules, findings);
-    throw std::runtime_error("the rule simulation of the demo did not run: " + findings.str());
+    throw std::runtime_error(
+        tr("the rule simulation of the demo did not run: {1}", {findings.str()}));
   }
   std::map<std::string, double> storage;
   for (const auto& element : rules->getElements()) {

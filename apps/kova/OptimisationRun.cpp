@@ -5,6 +5,7 @@
 
 #include "CurveTable.h"
 #include "FrontTable.h"
+#include "HostText.h"
 #include "OpenProject.h"
 #include "UsageError.h"
 #include "optimization/GuaranteeCurveScenario.h"
@@ -48,8 +49,8 @@ void OptimisationRun::storeOutput(const OpenProject& project, const std::string&
   // which the stored runs of every scenario are judged stale or not.
   const auto inputsChanged = std::filesystem::last_write_time(project.path());
   if (!SaveProject::save(project.path().string(), nullptr)) {
-    throw std::runtime_error(project.path().string() + ": could not be written; the " + what +
-                             " is not stored");
+    throw std::runtime_error(
+        tr("{1}: could not be written; the {2} is not stored", {project.path().string(), what}));
   }
   std::error_code ignored;
   std::filesystem::last_write_time(project.path(), inputsChanged, ignored);
@@ -62,10 +63,10 @@ void OptimisationRun::finish(Scenario& scenario, const CommandLine& line,
     const CurveTable table = CurveTable::of(scenario);
     table.printTable(console.out);
     table.printFailures(console.err);
-    if (!line.has("no-save")) storeOutput(project, "curve found");
+    if (!line.has("no-save")) storeOutput(project, tr("curve found"));
   }
   if (const auto* optimisation = dynamic_cast<const RuleOptimizationScenario*>(&scenario)) {
     FrontTable(*optimisation, false).printTable(console.out);
-    if (!line.has("no-save")) storeOutput(project, "front found");
+    if (!line.has("no-save")) storeOutput(project, tr("front found"));
   }
 }

@@ -71,7 +71,7 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
                   FrontTable::optimisationOf(*scenario), index, goOn);
   if (!made) return exitCancelled;
   ScenarioManager::getInstance().addScenery(nextIndex(), made);
-  OptimisationRun::storeOutput(project, "scenario " + name);
+  OptimisationRun::storeOutput(project, tr("scenario {1}", {name}));
   console.out << tr("{1}: made from row {2} of \"{3}\" and saved",
                     {name, std::to_string(row), scenario->getName()})
               << '\n';

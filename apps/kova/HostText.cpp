@@ -174,6 +174,10 @@ const std::unordered_map<std::string, std::string>& portuguese() {
        "o cenário \"{1}\" não tem elemento chamado \"{2}\""},
       {"option --kind: element \"{1}\" has no such series",
        "opção --kind: o elemento \"{1}\" não tem essa série"},
+      {"scenario {1} is a guarantee curve, which keeps its curve and no results: see kova "
+       "curve {2} --scenario {1}",
+       "o cenário {1} é uma curva de garantia, que guarda sua curva e nenhum resultado: veja kova "
+       "curve {2} --scenario {1}"},
       {"scenario \"{1}\" has no stored results", "o cenário \"{1}\" não tem resultados gravados"},
       {"option --layout: \"{1}\" is neither tree nor chain",
        "opção --layout: \"{1}\" não é tree nem chain"},

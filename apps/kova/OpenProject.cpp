@@ -133,6 +133,14 @@ unsigned int OpenProject::indexOf(const std::shared_ptr<Scenario>& scenario) con
 }
 
 void OpenProject::loadLatestResults(const std::shared_ptr<Scenario>& scenario) const {
+  const ScenarioType kind = scenario->getScenarioType().getType();
+  if (kind == ScenarioType::guaranteeCurve || kind == ScenarioType::systemGuaranteeCurve) {
+    throw std::runtime_error(
+        file.string() + ": " +
+        tr("scenario {1} is a guarantee curve, which keeps its curve and no results: see kova "
+           "curve {2} --scenario {1}",
+           {quoted(scenario->getName()), file.string()}));
+  }
   auto& storage = SQLStorage::getInstance().getStorageRef();
   const auto hashes =
       DatabaseSearch::getHashesOfResultsByScenID(storage, scenario->getDatabaseId());

@@ -222,4 +222,10 @@ TEST(KovaOptimization, ASystemCurveIsTheSameOnEveryThreadCountAndMakesNoRuleScen
   EXPECT_EQ(solution.status, exitUsage);
   EXPECT_NE(solution.err.find("no rule scenario is made from it"), std::string::npos)
       << solution.err;
+  const auto metrics = kova({"metrics", project, "--scenario", name});
+  EXPECT_NE(metrics.status, exitOk);
+  EXPECT_NE(metrics.err.find("is a guarantee curve, which keeps its curve and no results: see "
+                             "kova curve"),
+            std::string::npos)
+      << metrics.err;
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "optimization/expression/ExpressionDefinition.h"
+
+// A node of a formula: x * (x - 1) * ... down to the last factor of at least 2; 1 below 2.
+class FactorialExpression : public ExpressionDefinition {
+ public:
+  FactorialExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
+                      std::string description = "fx()");
+
+  double interpret(Context context) const override;
+  std::string getPreVisualization() const override;
+  std::string getGeneralFormat() const override;
+  std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const override;
+  bool validate() const override;
+  void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) override;
+
+  const ExpressionPtr& getRootingExpression() const { return rootingExpression; }
+  void setRootingExpression(ExpressionPtr value) { rootingExpression = std::move(value); }
+
+ private:
+  std::string render(bool general) const;
+
+  ExpressionPtr rootingExpression;
+};

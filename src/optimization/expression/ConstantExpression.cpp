@@ -1,0 +1,28 @@
+#include "optimization/expression/ConstantExpression.h"
+
+#include <sstream>
+#include <utility>
+
+ConstantExpression::ConstantExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
+                                       std::string description, double value)
+    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::constant),
+                           std::move(parent), std::move(name), std::move(description)),
+      value(value) {}
+
+double ConstantExpression::interpret(Context) const { return value; }
+
+std::string ConstantExpression::getPreVisualization() const { return getGeneralFormat(); }
+
+std::string ConstantExpression::getGeneralFormat() const {
+  std::ostringstream out;
+  out << value;
+  return out.str();
+}
+
+std::vector<ExpressionPtr> ConstantExpression::getVectorOfExpressionDefinitions() const {
+  return {};
+}
+
+bool ConstantExpression::validate() const { return true; }
+
+void ConstantExpression::updateChieldPointer(const ExpressionPtr&, ExpressionPtr) {}

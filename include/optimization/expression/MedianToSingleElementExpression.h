@@ -1,0 +1,15 @@
+#pragma once
+
+#include "optimization/expression/SingleElementExpression.h"
+
+// A node of a formula: the median of its children's values, all read on the first element of the
+// context.
+class MedianToSingleElementExpression : public SingleElementExpression {
+ public:
+  MedianToSingleElementExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
+                                  std::string description = "fx()");
+
+  double interpret(Context context) const override;
+  std::string getPreVisualization() const override;
+  std::string getGeneralFormat() const override;
+};

@@ -31,9 +31,19 @@ enum class ExpressionType : int32_t {
   multiplicationWithTwoContexts = 23,
   divisionWithTwoContexts = 24,
   summation = 25,
+  meanWithSeveralContexts = 26,
+  medianWithSeveralContexts = 27,
+  minimumWithSeveralContexts = 28,
+  maximumWithSeveralContexts = 29,
+  sampleVarianceWithSeveralContexts = 30,
+  populationVarianceWithSeveralContexts = 31,
+  sampleStandardDeviationWithSeveralContexts = 32,
+  populationStandardDeviationWithSeveralContexts = 33,
 };
 
-// The display names of the node kinds, which users see in the formula dialog.
+// The display names of the node kinds, which users see in the formula dialog. A statistic over
+// several elements shows the name of the one over a single element; lookup by name finds the
+// latter.
 class ExpressionTypeVocabulary {
  public:
   static const EnumTable<Enum<ExpressionType>, ExpressionType>& expressionTypes();

@@ -31,6 +31,14 @@ const EnumTable<Enum<ExpressionType>, ExpressionType>& ExpressionTypeVocabulary:
       {X::multiplicationWithTwoContexts, "Multiplicação com dois contextos"},
       {X::divisionWithTwoContexts, "Divisão com dois contextos"},
       {X::summation, "Somatório"},
+      {X::meanWithSeveralContexts, "Média"},
+      {X::medianWithSeveralContexts, "Mediana"},
+      {X::minimumWithSeveralContexts, "Mínimo"},
+      {X::maximumWithSeveralContexts, "Máximo"},
+      {X::sampleVarianceWithSeveralContexts, "Variância sobre amostra"},
+      {X::populationVarianceWithSeveralContexts, "Variância sobre população"},
+      {X::sampleStandardDeviationWithSeveralContexts, "Desvio padrão sobre amostra"},
+      {X::populationStandardDeviationWithSeveralContexts, "Desvio padrão sobre população"},
   });
   return table;
 }

@@ -1,0 +1,28 @@
+#include "optimization/expression/SubtractionWithTwoContextsExpression.h"
+
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+SubtractionWithTwoContextsExpression::SubtractionWithTwoContextsExpression(
+    std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
+    : TwoFunctionsExpression(
+          ExpressionTypeVocabulary::of(ExpressionType::subtractionWithTwoContexts),
+          std::move(parent), std::move(name), std::move(description)) {}
+
+double SubtractionWithTwoContextsExpression::interpret(Context context) const {
+  requireTwoElements(context,
+                     "SubtractionWithSeveralContextsExpression::interpret invalid element count");
+  return first(context) - second(context);
+}
+
+std::string SubtractionWithTwoContextsExpression::render(bool general) const {
+  return "(" + text(getFirstExpression(), general) + "-" + text(getSecondExpression(), general) +
+         ")";
+}
+
+std::string SubtractionWithTwoContextsExpression::getPreVisualization() const {
+  return render(false);
+}
+
+std::string SubtractionWithTwoContextsExpression::getGeneralFormat() const { return render(true); }

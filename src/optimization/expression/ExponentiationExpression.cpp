@@ -1,7 +1,6 @@
 #include "optimization/expression/ExponentiationExpression.h"
 
 #include <cmath>
-#include <stdexcept>
 #include <utility>
 
 ExponentiationExpression::ExponentiationExpression(std::weak_ptr<ExpressionDefinition> parent,

@@ -1,7 +1,6 @@
 #include "optimization/expression/FactorialExpression.h"
 
 #include <cmath>
-#include <stdexcept>
 #include <utility>
 
 FactorialExpression::FactorialExpression(std::weak_ptr<ExpressionDefinition> parent,

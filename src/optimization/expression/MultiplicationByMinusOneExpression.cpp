@@ -1,7 +1,5 @@
 #include "optimization/expression/MultiplicationByMinusOneExpression.h"
 
-#include <cmath>
-#include <stdexcept>
 #include <utility>
 
 MultiplicationByMinusOneExpression::MultiplicationByMinusOneExpression(

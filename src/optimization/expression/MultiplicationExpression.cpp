@@ -1,7 +1,5 @@
 #include "optimization/expression/MultiplicationExpression.h"
 
-#include <cmath>
-#include <stdexcept>
 #include <utility>
 
 MultiplicationExpression::MultiplicationExpression(std::weak_ptr<ExpressionDefinition> parent,

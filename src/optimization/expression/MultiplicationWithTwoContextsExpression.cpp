@@ -1,7 +1,5 @@
 #include "optimization/expression/MultiplicationWithTwoContextsExpression.h"
 
-#include <cmath>
-#include <stdexcept>
 #include <utility>
 
 MultiplicationWithTwoContextsExpression::MultiplicationWithTwoContextsExpression(

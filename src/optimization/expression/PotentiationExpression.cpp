@@ -1,7 +1,6 @@
 #include "optimization/expression/PotentiationExpression.h"
 
 #include <cmath>
-#include <stdexcept>
 #include <utility>
 
 PotentiationExpression::PotentiationExpression(std::weak_ptr<ExpressionDefinition> parent,

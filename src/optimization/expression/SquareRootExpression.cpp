@@ -1,7 +1,6 @@
 #include "optimization/expression/SquareRootExpression.h"
 
 #include <cmath>
-#include <stdexcept>
 #include <utility>
 
 SquareRootExpression::SquareRootExpression(std::weak_ptr<ExpressionDefinition> parent,

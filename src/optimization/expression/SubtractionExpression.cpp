@@ -1,7 +1,5 @@
 #include "optimization/expression/SubtractionExpression.h"
 
-#include <cmath>
-#include <stdexcept>
 #include <utility>
 
 SubtractionExpression::SubtractionExpression(std::weak_ptr<ExpressionDefinition> parent,

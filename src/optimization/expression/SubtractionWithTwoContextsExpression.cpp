@@ -1,7 +1,5 @@
 #include "optimization/expression/SubtractionWithTwoContextsExpression.h"
 
-#include <cmath>
-#include <stdexcept>
 #include <utility>
 
 SubtractionWithTwoContextsExpression::SubtractionWithTwoContextsExpression(

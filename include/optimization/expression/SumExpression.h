@@ -2,8 +2,8 @@
 
 #include "optimization/expression/SingleElementExpression.h"
 
-// A node of a formula: the plain sum of the children, each read in the whole context of its
-// children's values.
+// A node of a formula: the plain sum of its children's values, each child read in the whole
+// context, so that a child over several elements still sees them all.
 class SumExpression : public SingleElementExpression {
  public:
   SumExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,

@@ -12,7 +12,6 @@ class DivisionExpression : public ExpressionDefinition {
   std::string getPreVisualization() const override;
   std::string getGeneralFormat() const override;
   std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const override;
-  bool validate() const override;
   void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) override;
 
   const ExpressionPtr& getNumeratorExpression() const { return numerator; }

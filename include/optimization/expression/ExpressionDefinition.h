@@ -22,7 +22,9 @@ class ExpressionDefinition {
   virtual std::string getPreVisualization() const = 0;
   virtual std::string getGeneralFormat() const = 0;
   virtual std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const = 0;
-  virtual bool validate() const = 0;
+  // Whether every child is present and valid, asked in order and stopping at the first failure;
+  // a leaf is valid as it stands.
+  virtual bool validate() const;
   // Puts newChild where oldChild is; a node without oldChild among its children is unchanged.
   virtual void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) = 0;
 
@@ -35,8 +37,6 @@ class ExpressionDefinition {
   void setParent(std::weak_ptr<ExpressionDefinition> value) { parent = std::move(value); }
 
  protected:
-  // Whether every child is present and valid, asked in order and stopping at the first failure.
-  static bool validateAll(const std::vector<ExpressionPtr>& children);
   // A child's value; a missing child is refused with its node's name rather than crashing.
   double evaluate(const ExpressionPtr& child, const Context& context) const;
   // A child's general format or pre-visualisation; a missing child renders as nothing.

@@ -14,7 +14,6 @@ class SerieExpression : public ExpressionDefinition {
   std::string getPreVisualization() const override;
   std::string getGeneralFormat() const override;
   std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const override;
-  bool validate() const override;
   void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) override;
 
   SerieType getSerieType() const { return serieType; }

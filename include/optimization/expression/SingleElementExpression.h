@@ -12,7 +12,6 @@ class SingleElementExpression : public ExpressionDefinition {
   using ExpressionDefinition::ExpressionDefinition;
 
   std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const override;
-  bool validate() const override;
   void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) override;
 
   // Grows with empty places or drops the last children, for the dialog's count of operands.

@@ -16,7 +16,6 @@ class SummationToSeveralElementsWithSingleFunctionExpression : public ElementSto
   std::string getPreVisualization() const override;
   std::string getGeneralFormat() const override;
   std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const override;
-  bool validate() const override;
   void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) override;
   std::vector<unsigned int> getElementIDs() const override { return elementIDs; }
 

@@ -12,7 +12,6 @@ class TwoFunctionsExpression : public ElementStoreExpression {
   using ElementStoreExpression::ElementStoreExpression;
 
   std::vector<ExpressionPtr> getVectorOfExpressionDefinitions() const override;
-  bool validate() const override;
   void updateChieldPointer(const ExpressionPtr& oldChild, ExpressionPtr newChild) override;
   std::vector<unsigned int> getElementIDs() const override { return {firstID, secondID}; }
 

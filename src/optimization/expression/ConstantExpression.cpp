@@ -23,6 +23,4 @@ std::vector<ExpressionPtr> ConstantExpression::getVectorOfExpressionDefinitions(
   return {};
 }
 
-bool ConstantExpression::validate() const { return true; }
-
 void ConstantExpression::updateChieldPointer(const ExpressionPtr&, ExpressionPtr) {}

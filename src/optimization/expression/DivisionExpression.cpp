@@ -29,10 +29,6 @@ std::vector<ExpressionPtr> DivisionExpression::getVectorOfExpressionDefinitions(
   return {numerator, denominator};
 }
 
-bool DivisionExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void DivisionExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                              ExpressionPtr newChild) {
   replaceIfSame(numerator, oldChild, newChild);

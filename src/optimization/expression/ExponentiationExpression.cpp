@@ -24,10 +24,6 @@ std::vector<ExpressionPtr> ExponentiationExpression::getVectorOfExpressionDefini
   return {exponentExpression};
 }
 
-bool ExponentiationExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void ExponentiationExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                    ExpressionPtr newChild) {
   replaceIfSame(exponentExpression, oldChild, newChild);

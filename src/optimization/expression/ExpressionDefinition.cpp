@@ -11,8 +11,8 @@ ExpressionDefinition::ExpressionDefinition(Enum<ExpressionType> type,
       name(std::move(name)),
       description(std::move(description)) {}
 
-bool ExpressionDefinition::validateAll(const std::vector<ExpressionPtr>& children) {
-  for (const ExpressionPtr& child : children) {
+bool ExpressionDefinition::validate() const {
+  for (const ExpressionPtr& child : getVectorOfExpressionDefinitions()) {
     if (!child || !child->validate()) return false;
   }
   return true;

@@ -32,10 +32,6 @@ std::vector<ExpressionPtr> FactorialExpression::getVectorOfExpressionDefinitions
   return {rootingExpression};
 }
 
-bool FactorialExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void FactorialExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                               ExpressionPtr newChild) {
   replaceIfSame(rootingExpression, oldChild, newChild);

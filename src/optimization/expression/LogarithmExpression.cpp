@@ -31,10 +31,6 @@ std::vector<ExpressionPtr> LogarithmExpression::getVectorOfExpressionDefinitions
   return {logarithming, base};
 }
 
-bool LogarithmExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void LogarithmExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                               ExpressionPtr newChild) {
   replaceIfSame(logarithming, oldChild, newChild);

@@ -26,10 +26,6 @@ std::vector<ExpressionPtr> MultiplicationByMinusOneExpression::getVectorOfExpres
   return {expressionToBeMultiplied};
 }
 
-bool MultiplicationByMinusOneExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void MultiplicationByMinusOneExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                              ExpressionPtr newChild) {
   replaceIfSame(expressionToBeMultiplied, oldChild, newChild);

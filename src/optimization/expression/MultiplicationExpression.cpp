@@ -23,10 +23,6 @@ std::vector<ExpressionPtr> MultiplicationExpression::getVectorOfExpressionDefini
   return {firstExpression, secondExpression};
 }
 
-bool MultiplicationExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void MultiplicationExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                    ExpressionPtr newChild) {
   replaceIfSame(firstExpression, oldChild, newChild);

@@ -24,10 +24,6 @@ std::vector<ExpressionPtr> PotentiationExpression::getVectorOfExpressionDefiniti
   return {baseExpression};
 }
 
-bool PotentiationExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void PotentiationExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                  ExpressionPtr newChild) {
   replaceIfSame(baseExpression, oldChild, newChild);

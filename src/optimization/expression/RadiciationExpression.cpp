@@ -27,10 +27,6 @@ std::vector<ExpressionPtr> RadiciationExpression::getVectorOfExpressionDefinitio
   return {rootingExpression};
 }
 
-bool RadiciationExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void RadiciationExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                 ExpressionPtr newChild) {
   replaceIfSame(rootingExpression, oldChild, newChild);

@@ -33,6 +33,4 @@ std::string SerieExpression::getGeneralFormat() const {
 
 std::vector<ExpressionPtr> SerieExpression::getVectorOfExpressionDefinitions() const { return {}; }
 
-bool SerieExpression::validate() const { return true; }
-
 void SerieExpression::updateChieldPointer(const ExpressionPtr&, ExpressionPtr) {}

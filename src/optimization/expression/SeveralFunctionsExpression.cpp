@@ -7,8 +7,6 @@ std::vector<ExpressionPtr> SeveralFunctionsExpression::getVectorOfExpressionDefi
   return expressions;
 }
 
-bool SeveralFunctionsExpression::validate() const { return validateAll(expressions); }
-
 void SeveralFunctionsExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                      ExpressionPtr newChild) {
   for (ExpressionPtr& slot : expressions) replaceIfSame(slot, oldChild, newChild);

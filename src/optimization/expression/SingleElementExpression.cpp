@@ -7,8 +7,6 @@ std::vector<ExpressionPtr> SingleElementExpression::getVectorOfExpressionDefinit
   return expressions;
 }
 
-bool SingleElementExpression::validate() const { return validateAll(expressions); }
-
 void SingleElementExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                   ExpressionPtr newChild) {
   for (ExpressionPtr& slot : expressions) replaceIfSame(slot, oldChild, newChild);

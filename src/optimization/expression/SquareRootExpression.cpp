@@ -24,10 +24,6 @@ std::vector<ExpressionPtr> SquareRootExpression::getVectorOfExpressionDefinition
   return {rootingExpression};
 }
 
-bool SquareRootExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void SquareRootExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                ExpressionPtr newChild) {
   replaceIfSame(rootingExpression, oldChild, newChild);

@@ -23,10 +23,6 @@ std::vector<ExpressionPtr> SubtractionExpression::getVectorOfExpressionDefinitio
   return {firstExpression, secondExpression};
 }
 
-bool SubtractionExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void SubtractionExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                 ExpressionPtr newChild) {
   replaceIfSame(firstExpression, oldChild, newChild);

@@ -44,10 +44,6 @@ SummationToSeveralElementsWithSingleFunctionExpression::getVectorOfExpressionDef
   return {expression};
 }
 
-bool SummationToSeveralElementsWithSingleFunctionExpression::validate() const {
-  return validateAll({expression});
-}
-
 void SummationToSeveralElementsWithSingleFunctionExpression::updateChieldPointer(
     const ExpressionPtr& oldChild, ExpressionPtr newChild) {
   replaceIfSame(expression, oldChild, newChild);

@@ -6,10 +6,6 @@ std::vector<ExpressionPtr> TwoFunctionsExpression::getVectorOfExpressionDefiniti
   return {firstExpression, secondExpression};
 }
 
-bool TwoFunctionsExpression::validate() const {
-  return validateAll(getVectorOfExpressionDefinitions());
-}
-
 void TwoFunctionsExpression::updateChieldPointer(const ExpressionPtr& oldChild,
                                                  ExpressionPtr newChild) {
   replaceIfSame(firstExpression, oldChild, newChild);

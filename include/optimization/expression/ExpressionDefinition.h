@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "optimization/expression/Context.h"
-#include "vocabulary/ExpressionTypeVocabulary.h"
+#include "vocabulary/EnumExpressionTypeFactory.h"
 
 class ExpressionDefinition;
 using ExpressionPtr = std::shared_ptr<ExpressionDefinition>;

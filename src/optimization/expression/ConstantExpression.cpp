@@ -5,8 +5,9 @@
 
 ConstantExpression::ConstantExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
                                        std::string description, double value)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::constant),
-                           std::move(parent), std::move(name), std::move(description)),
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::constant),
+          std::move(parent), std::move(name), std::move(description)),
       value(value) {}
 
 double ConstantExpression::interpret(Context) const { return value; }

@@ -6,8 +6,9 @@
 
 DivisionExpression::DivisionExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
                                        std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::division),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::division),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double DivisionExpression::interpret(Context context) const {
   const double divisor = evaluate(denominator, context);

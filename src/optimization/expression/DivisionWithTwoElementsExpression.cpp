@@ -6,7 +6,8 @@
 
 DivisionWithTwoElementsExpression::DivisionWithTwoElementsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : TwoFunctionsExpression(ExpressionTypeVocabulary::of(ExpressionType::divisionWithTwoContexts),
+    : TwoFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                 ExpressionType::divisionWithTwoContexts),
                              std::move(parent), std::move(name), std::move(description)) {}
 
 double DivisionWithTwoElementsExpression::interpret(Context context) const {

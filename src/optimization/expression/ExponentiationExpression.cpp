@@ -5,8 +5,9 @@
 
 ExponentiationExpression::ExponentiationExpression(std::weak_ptr<ExpressionDefinition> parent,
                                                    std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::exponentiation),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::exponentiation),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double ExponentiationExpression::interpret(Context context) const {
   return std::pow(baseConstant, evaluate(exponentExpression, context));

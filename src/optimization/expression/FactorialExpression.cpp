@@ -5,8 +5,9 @@
 
 FactorialExpression::FactorialExpression(std::weak_ptr<ExpressionDefinition> parent,
                                          std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::factorial),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::factorial),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double FactorialExpression::interpret(Context context) const {
   // A fractional part is dropped by stopping at 2, so 4.5! is 4.5 * 3.5 * 2.5; the loop also

@@ -6,8 +6,9 @@
 
 LogarithmExpression::LogarithmExpression(std::weak_ptr<ExpressionDefinition> parent,
                                          std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::logarithm),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::logarithm),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double LogarithmExpression::interpret(Context context) const {
   const double baseValue = evaluate(base, context);

@@ -6,8 +6,9 @@
 
 MaximumToSingleElementExpression::MaximumToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::maximum),
-                              std::move(parent), std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::maximum),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double MaximumToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::max(valuesOnFirstElement(

@@ -6,9 +6,9 @@
 
 MaximumWithSeveralContextsExpression::MaximumWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::maximumWithSeveralContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::maximumWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double MaximumWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::max(valuesPerElement(

@@ -6,8 +6,9 @@
 
 MeanToSingleElementExpression::MeanToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::mean), std::move(parent),
-                              std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::mean),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double MeanToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::average(valuesOnFirstElement(

@@ -6,9 +6,9 @@
 
 MeanWithSeveralContextsExpression::MeanWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::meanWithSeveralContexts), std::move(parent),
-          std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::meanWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double MeanWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::average(valuesPerElement(

@@ -6,8 +6,9 @@
 
 MedianToSingleElementExpression::MedianToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::median),
-                              std::move(parent), std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::median),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double MedianToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::median(

@@ -6,9 +6,9 @@
 
 MedianWithSeveralContextsExpression::MedianWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::medianWithSeveralContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::medianWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double MedianWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::median(valuesPerElement(

@@ -6,8 +6,9 @@
 
 MinimumToSingleElementExpression::MinimumToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::minimum),
-                              std::move(parent), std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::minimum),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double MinimumToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::min(valuesOnFirstElement(

@@ -6,9 +6,9 @@
 
 MinimumWithSeveralContextsExpression::MinimumWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::minimumWithSeveralContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::minimumWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double MinimumWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::min(valuesPerElement(

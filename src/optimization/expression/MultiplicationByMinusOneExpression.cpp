@@ -4,7 +4,8 @@
 
 MultiplicationByMinusOneExpression::MultiplicationByMinusOneExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::multiplicationByMinusOne),
+    : ExpressionDefinition(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                               ExpressionType::multiplicationByMinusOne),
                            std::move(parent), std::move(name), std::move(description)) {}
 
 double MultiplicationByMinusOneExpression::interpret(Context context) const {

@@ -4,8 +4,9 @@
 
 MultiplicationExpression::MultiplicationExpression(std::weak_ptr<ExpressionDefinition> parent,
                                                    std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::multiplication),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::multiplication),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double MultiplicationExpression::interpret(Context context) const {
   return evaluate(firstExpression, context) * evaluate(secondExpression, context);

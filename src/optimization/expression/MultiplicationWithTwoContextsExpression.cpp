@@ -4,9 +4,9 @@
 
 MultiplicationWithTwoContextsExpression::MultiplicationWithTwoContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : TwoFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::multiplicationWithTwoContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : TwoFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                 ExpressionType::multiplicationWithTwoContexts),
+                             std::move(parent), std::move(name), std::move(description)) {}
 
 double MultiplicationWithTwoContextsExpression::interpret(Context context) const {
   requireTwoElements(context,

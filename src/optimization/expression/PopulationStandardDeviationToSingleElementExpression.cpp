@@ -7,9 +7,9 @@
 PopulationStandardDeviationToSingleElementExpression::
     PopulationStandardDeviationToSingleElementExpression(std::weak_ptr<ExpressionDefinition> parent,
                                                          std::string name, std::string description)
-    : SingleElementExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::populationStandardDeviation),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SingleElementExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                  ExpressionType::populationStandardDeviation),
+                              std::move(parent), std::move(name), std::move(description)) {}
 
 double PopulationStandardDeviationToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::stdDeviationConsideringPopulationVariance(valuesOnFirstElement(

@@ -8,7 +8,7 @@ PopulationStandardDeviationWithSeveralContextsExpression::
     PopulationStandardDeviationWithSeveralContextsExpression(
         std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
     : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(
               ExpressionType::populationStandardDeviationWithSeveralContexts),
           std::move(parent), std::move(name), std::move(description)) {}
 

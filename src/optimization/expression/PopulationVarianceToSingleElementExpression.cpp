@@ -6,8 +6,9 @@
 
 PopulationVarianceToSingleElementExpression::PopulationVarianceToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::populationVariance),
-                              std::move(parent), std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::populationVariance),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double PopulationVarianceToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::populationVariance(valuesOnFirstElement(

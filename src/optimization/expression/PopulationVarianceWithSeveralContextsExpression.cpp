@@ -6,9 +6,9 @@
 
 PopulationVarianceWithSeveralContextsExpression::PopulationVarianceWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::populationVarianceWithSeveralContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::populationVarianceWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double PopulationVarianceWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::populationVariance(valuesPerElement(

@@ -5,8 +5,9 @@
 
 PotentiationExpression::PotentiationExpression(std::weak_ptr<ExpressionDefinition> parent,
                                                std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::potentiation),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::potentiation),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double PotentiationExpression::interpret(Context context) const {
   return std::pow(evaluate(baseExpression, context), exponent);

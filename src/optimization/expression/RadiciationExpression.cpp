@@ -6,8 +6,9 @@
 
 RadiciationExpression::RadiciationExpression(std::weak_ptr<ExpressionDefinition> parent,
                                              std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::radiciation),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::radiciation),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double RadiciationExpression::interpret(Context context) const {
   if (index == 0)

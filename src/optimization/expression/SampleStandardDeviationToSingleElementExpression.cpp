@@ -6,7 +6,8 @@
 
 SampleStandardDeviationToSingleElementExpression::SampleStandardDeviationToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::sampleStandardDeviation),
+    : SingleElementExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                  ExpressionType::sampleStandardDeviation),
                               std::move(parent), std::move(name), std::move(description)) {}
 
 double SampleStandardDeviationToSingleElementExpression::interpret(Context context) const {

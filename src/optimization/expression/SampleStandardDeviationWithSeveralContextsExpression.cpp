@@ -7,9 +7,9 @@
 SampleStandardDeviationWithSeveralContextsExpression::
     SampleStandardDeviationWithSeveralContextsExpression(std::weak_ptr<ExpressionDefinition> parent,
                                                          std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::sampleStandardDeviationWithSeveralContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::sampleStandardDeviationWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double SampleStandardDeviationWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::stdDeviationConsideringSampleVariance(valuesPerElement(

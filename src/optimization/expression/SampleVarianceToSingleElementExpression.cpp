@@ -6,8 +6,9 @@
 
 SampleVarianceToSingleElementExpression::SampleVarianceToSingleElementExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::sampleVariance),
-                              std::move(parent), std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::sampleVariance),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double SampleVarianceToSingleElementExpression::interpret(Context context) const {
   return VectorStatistics::sampleVariance(valuesOnFirstElement(

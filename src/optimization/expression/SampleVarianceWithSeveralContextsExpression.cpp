@@ -6,9 +6,9 @@
 
 SampleVarianceWithSeveralContextsExpression::SampleVarianceWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::sampleVarianceWithSeveralContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : SeveralFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                     ExpressionType::sampleVarianceWithSeveralContexts),
+                                 std::move(parent), std::move(name), std::move(description)) {}
 
 double SampleVarianceWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::sampleVariance(valuesPerElement(

@@ -8,8 +8,8 @@
 
 SerieExpression::SerieExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
                                  std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::serie), std::move(parent),
-                           std::move(name), std::move(description)) {}
+    : ExpressionDefinition(EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::serie),
+                           std::move(parent), std::move(name), std::move(description)) {}
 
 double SerieExpression::interpret(Context context) const {
   if (context.getElements().empty()) {

@@ -5,8 +5,9 @@
 
 SquareRootExpression::SquareRootExpression(std::weak_ptr<ExpressionDefinition> parent,
                                            std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::squareRoot),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::squareRoot),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double SquareRootExpression::interpret(Context context) const {
   return std::sqrt(evaluate(rootingExpression, context));

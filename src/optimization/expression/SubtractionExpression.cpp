@@ -4,8 +4,9 @@
 
 SubtractionExpression::SubtractionExpression(std::weak_ptr<ExpressionDefinition> parent,
                                              std::string name, std::string description)
-    : ExpressionDefinition(ExpressionTypeVocabulary::of(ExpressionType::subtraction),
-                           std::move(parent), std::move(name), std::move(description)) {}
+    : ExpressionDefinition(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::subtraction),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double SubtractionExpression::interpret(Context context) const {
   return evaluate(firstExpression, context) - evaluate(secondExpression, context);

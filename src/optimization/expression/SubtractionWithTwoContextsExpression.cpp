@@ -4,9 +4,9 @@
 
 SubtractionWithTwoContextsExpression::SubtractionWithTwoContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : TwoFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::subtractionWithTwoContexts),
-          std::move(parent), std::move(name), std::move(description)) {}
+    : TwoFunctionsExpression(EnumExpressionTypeFactory::makeExpressionTypeEnum(
+                                 ExpressionType::subtractionWithTwoContexts),
+                             std::move(parent), std::move(name), std::move(description)) {}
 
 double SubtractionWithTwoContextsExpression::interpret(Context context) const {
   requireTwoElements(context,

@@ -6,8 +6,9 @@
 
 SumExpression::SumExpression(std::weak_ptr<ExpressionDefinition> parent, std::string name,
                              std::string description)
-    : SingleElementExpression(ExpressionTypeVocabulary::of(ExpressionType::sum), std::move(parent),
-                              std::move(name), std::move(description)) {}
+    : SingleElementExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::sum), std::move(parent),
+          std::move(name), std::move(description)) {}
 
 double SumExpression::interpret(Context context) const {
   return VectorStatistics::sum(values(context));

@@ -7,8 +7,8 @@
 SumWithSeveralContextsExpression::SumWithSeveralContextsExpression(
     std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
     : SeveralFunctionsExpression(
-          ExpressionTypeVocabulary::of(ExpressionType::sumWithSeveralContexts), std::move(parent),
-          std::move(name), std::move(description)) {}
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::sumWithSeveralContexts),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double SumWithSeveralContextsExpression::interpret(Context context) const {
   return VectorStatistics::sum(valuesPerElement(

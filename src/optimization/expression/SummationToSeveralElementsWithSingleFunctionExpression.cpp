@@ -6,8 +6,9 @@
 SummationToSeveralElementsWithSingleFunctionExpression::
     SummationToSeveralElementsWithSingleFunctionExpression(
         std::weak_ptr<ExpressionDefinition> parent, std::string name, std::string description)
-    : ElementStoreExpression(ExpressionTypeVocabulary::of(ExpressionType::summation),
-                             std::move(parent), std::move(name), std::move(description)) {}
+    : ElementStoreExpression(
+          EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType::summation),
+          std::move(parent), std::move(name), std::move(description)) {}
 
 double SummationToSeveralElementsWithSingleFunctionExpression::interpret(Context context) const {
   const std::vector<std::shared_ptr<Element>>& elements = context.getElements();

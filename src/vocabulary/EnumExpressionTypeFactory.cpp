@@ -1,8 +1,9 @@
-#include "vocabulary/ExpressionTypeVocabulary.h"
+#include "vocabulary/EnumExpressionTypeFactory.h"
 
 #include <stdexcept>
 
-const EnumTable<Enum<ExpressionType>, ExpressionType>& ExpressionTypeVocabulary::expressionTypes() {
+const EnumTable<Enum<ExpressionType>, ExpressionType>&
+EnumExpressionTypeFactory::expressionTypes() {
   using X = ExpressionType;
   static const EnumTable<Enum<ExpressionType>, ExpressionType> table({
       {X::constant, "Constante"},
@@ -43,10 +44,11 @@ const EnumTable<Enum<ExpressionType>, ExpressionType>& ExpressionTypeVocabulary:
   return table;
 }
 
-const Enum<ExpressionType>& ExpressionTypeVocabulary::of(ExpressionType type) {
+const Enum<ExpressionType>& EnumExpressionTypeFactory::makeExpressionTypeEnum(ExpressionType type) {
   const Enum<ExpressionType>* row = expressionTypes().findByType(type);
   if (row == nullptr) {
-    throw std::invalid_argument("ExpressionTypeVocabulary::of(): value outside the vocabulary");
+    throw std::invalid_argument(
+        "EnumExpressionTypeFactory::makeExpressionTypeEnum(): value outside the vocabulary");
   }
   return *row;
 }

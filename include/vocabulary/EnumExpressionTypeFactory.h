@@ -44,8 +44,9 @@ enum class ExpressionType : int32_t {
 // The display names of the node kinds, which users see in the formula dialog. A statistic over
 // several elements shows the name of the one over a single element; lookup by name finds the
 // latter.
-class ExpressionTypeVocabulary {
+class EnumExpressionTypeFactory {
  public:
   static const EnumTable<Enum<ExpressionType>, ExpressionType>& expressionTypes();
-  static const Enum<ExpressionType>& of(ExpressionType type);
+  // Throws std::invalid_argument for a value outside the vocabulary.
+  static const Enum<ExpressionType>& makeExpressionTypeEnum(ExpressionType type);
 };

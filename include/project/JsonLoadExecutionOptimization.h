@@ -9,9 +9,9 @@
 
 // Reads the method of a rule optimisation: the common part, then "objectiveFunctions" (each
 // function by its name, without its elements: the scenario's reader gives them once every element
-// is read), "personalizedObjectiveFunctions" (optional; this version reads only an empty list)
-// and "OptAlgorithm", whose swarm is set as it stands, even with fewer than two functions, which
-// the scenario's check then reports.
+// is read), "personalizedObjectiveFunctions" (optional: each with its formula, whose elements stay
+// ids until the run) and "OptAlgorithm", whose swarm is set as it stands, even with fewer than two
+// functions, which the scenario's check then reports.
 class JsonLoadExecutionOptimization : public JsonLoadExecutionMethod {
  public:
   JsonLoadExecutionOptimization();
@@ -27,4 +27,6 @@ class JsonLoadExecutionOptimization : public JsonLoadExecutionMethod {
 
  private:
   static void loadObjectiveFunctions(const nlohmann::json& object, ExecutionOptimization& method);
+  static void loadPersonalizedObjectiveFunctions(const nlohmann::json& object,
+                                                 ExecutionOptimization& method);
 };

@@ -4,7 +4,9 @@
 #include <stdexcept>
 
 #include "optimization/ObjectiveFunctionFactory.h"
+#include "optimization/expression/ElementStoreExpression.h"
 #include "optimization/kernel/Solution.h"
+#include "scenario/ScenarioManager.h"
 
 ExecutionOptimization::ExecutionOptimization()
     : SwarmExecution(ExecutionType::optimization, "ExecutionOptimization") {}
@@ -30,7 +32,42 @@ bool ExecutionOptimization::run(const Interval& runInterval,
 std::vector<double> ExecutionOptimization::measure() const {
   std::vector<double> objectives;
   for (const auto& function : objectiveFunctions) objectives.push_back(function->getValue(0));
+  for (const auto& configuration : expressionConfigurations) {
+    if (configuration.isEnabled()) objectives.push_back(valueOf(configuration));
+  }
   return objectives;
+}
+
+double ExecutionOptimization::valueOf(
+    const ExpressionDefinitionConfiguration& configuration) const {
+  const auto root =
+      std::dynamic_pointer_cast<ElementStoreExpression>(configuration.getRootExpression());
+  const std::string function = "ExecutionOptimization: personalised objective function \"" +
+                               configuration.getName() + "\": ";
+  if (!root) throw std::invalid_argument(function + "its formula does not start on elements");
+  Elements named;
+  for (const unsigned int id : root->getElementIDs()) {
+    const auto found = std::find_if(getElements().begin(), getElements().end(),
+                                    [id](const auto& element) { return element->getId() == id; });
+    if (found == getElements().end()) {
+      throw std::invalid_argument(function + "no element has id " + std::to_string(id));
+    }
+    named.push_back(*found);
+  }
+  return root->interpret(
+      Context(ScenarioManager::getInstance().getCurrentScenario(), named, getRunInterval()));
+}
+
+int ExecutionOptimization::numberOfObjectives() const {
+  const auto enabled =
+      std::count_if(expressionConfigurations.begin(), expressionConfigurations.end(),
+                    [](const auto& configuration) { return configuration.isEnabled(); });
+  return static_cast<int>(objectiveFunctions.size()) + static_cast<int>(enabled);
+}
+
+void ExecutionOptimization::addExpressionDefinitionConfiguration(
+    ExpressionDefinitionConfiguration configuration) {
+  expressionConfigurations.push_back(std::move(configuration));
 }
 
 void ExecutionOptimization::setObjectiveFunctionValue(Solution* solution,
@@ -80,7 +117,7 @@ void ExecutionOptimization::addObjectiveFunction(ObjectiveFunctionType type, boo
 }
 
 void ExecutionOptimization::configureAlgorithm(OptimizationAlgorithmType type) {
-  if (objectiveFunctions.size() < 2) {
+  if (numberOfObjectives() < 2) {
     throw std::runtime_error(
         "ExecutionOptimization::configureAlgorithm: There must be at least two objective "
         "functions.");
@@ -112,6 +149,7 @@ void ExecutionOptimization::setSettingsManager(const SettingsManager* value) {
 std::shared_ptr<ExecutionMethod> ExecutionOptimization::copySpecific() const {
   auto copy = std::make_shared<ExecutionOptimization>();
   copy->objectiveFunctions = objectiveFunctions;
+  copy->expressionConfigurations = expressionConfigurations;
   copySwarmInto(*copy);
   return copy;
 }

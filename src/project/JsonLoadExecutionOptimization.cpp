@@ -1,7 +1,9 @@
 #include "project/JsonLoadExecutionOptimization.h"
 
+#include "project/ExpressionDefinitionJsonLoad.h"
 #include "project/JsonLoadHelper.h"
 #include "project/JsonLoadOptAlgorithmFactory.h"
+#include "vocabulary/EnumFactories.h"
 
 using json = nlohmann::json;
 using Helper = JsonLoadHelper;
@@ -18,11 +20,7 @@ void JsonLoadExecutionOptimization::loadSpecific(const json& object,
                                                  ExecutionMethod& method) const {
   auto& optimization = dynamic_cast<ExecutionOptimization&>(method);
   loadObjectiveFunctions(object, optimization);
-  bool found = false;
-  const json& personalized = Helper::findOptional(found, object, "personalizedObjectiveFunctions");
-  if (found && !Helper::asArray(personalized).empty()) {
-    Helper::refuse(personalized, "an empty list (functions by expression are not read yet)");
-  }
+  loadPersonalizedObjectiveFunctions(object, optimization);
   loadAlgorithm(object, optimization, OptimizationAlgorithmTypeNames::typeOf);
 }
 
@@ -35,6 +33,25 @@ void JsonLoadExecutionOptimization::loadObjectiveFunctions(const json& object,
     });
     const bool minimize = Helper::getRequired<bool>(item, "isMinimization");
     Helper::at(item, [&] { method.addObjectiveFunction(type, minimize, {}); });
+  }
+}
+
+void JsonLoadExecutionOptimization::loadPersonalizedObjectiveFunctions(
+    const json& object, ExecutionOptimization& method) {
+  bool found = false;
+  const json& personalized = Helper::findOptional(found, object, "personalizedObjectiveFunctions");
+  if (!found) return;
+  for (const json& item : Helper::asArray(personalized)) {
+    const bool minimize = Helper::getRequired<bool>(item, "isMinimization");
+    const bool enabled = Helper::getRequired<bool>(item, "isEnabled");
+    auto root =
+        ExpressionDefinitionJsonLoad::loadExpression(Helper::findRequired(item, "rootExpression"));
+    const json& unit = Helper::findRequired(item, "unit");
+    const auto& unitEnum = Helper::known(unit, "the name of a unit", [&] {
+      return EnumUnitFactory::makeUnit(Helper::get<std::string>(unit));
+    });
+    method.addExpressionDefinitionConfiguration(
+        ExpressionDefinitionConfiguration(std::move(root), enabled, minimize, unitEnum));
   }
 }
 

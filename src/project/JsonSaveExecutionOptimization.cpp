@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "optimization/ExecutionOptimization.h"
+#include "project/ExpressionDefinitionSaveFactory.h"
 #include "project/JsonSaveOptAlgorithmFactory.h"
 
 using B = JsonSaveBuilder;
@@ -17,6 +18,16 @@ std::string functionToJson(const ObjectiveFunction& function) {
                         B::makeJsonKeyValue("elementsIds", B::makeVectorOfIntegerValues(ids))});
 }
 
+std::string personalizedToJson(const ExpressionDefinitionConfiguration& configuration) {
+  return B::makeObject(
+      {B::makeJsonKeyValue("isMinimization", configuration.isMinimization()),
+       B::makeJsonKeyValue("isEnabled", configuration.isEnabled()),
+       B::makeJsonKeyValue(
+           "rootExpression",
+           ExpressionDefinitionSaveFactory::make(configuration.getRootExpression())->toJson()),
+       B::makeJsonKeyValueString("unit", configuration.getUnit().getName())});
+}
+
 }  // namespace
 
 JsonSaveBuilder::Members JsonSaveExecutionOptimization::toJsonSpecific() const {
@@ -26,7 +37,9 @@ JsonSaveBuilder::Members JsonSaveExecutionOptimization::toJsonSpecific() const {
   };
   return {B::makeJsonKeyValue("objectiveFunctions",
                               B::makeArray(method.getVectorOfObjectiveFunctions(), function)),
-          B::makeJsonKeyValue("personalizedObjectiveFunctions", "[]"),
+          B::makeJsonKeyValue("personalizedObjectiveFunctions",
+                              B::makeArray(method.getVectorOfExpressionDefinitionConfiguration(),
+                                           personalizedToJson)),
           B::makeJsonKeyValue(
               "OptAlgorithm",
               JsonSaveOptAlgorithmFactory::make(method.getOptimizationAlgorithm())->toJson())};

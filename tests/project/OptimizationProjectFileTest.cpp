@@ -205,7 +205,7 @@ TEST_F(OptimizationProjectFileTest, AWrongOptimisationKeyIsOneLineNamingItsPlace
        "getOptimizationAlgorithmTypeByString(): Invalid optimization algorithm type"},
       {R"("particlesSize":4)", R"("particlesSize":0)", "OptAlgorithm"},
       {R"("personalizedObjectiveFunctions":[])", R"("personalizedObjectiveFunctions":[{}])",
-       "functions by expression are not read yet"},
+       "isMinimization"},
       {R"("OptRelease":[0,1,1])", R"("OptRelease":[0,1])", "3 flags (0 or 1), one per value"},
       {R"("objectiveFunctionsValues":[[)", R"("objectiveFunctionsValues":[[0],[)",
        "1 rows of objective values, one per solution"},

@@ -91,7 +91,13 @@ const std::unordered_map<std::string, std::string>& portuguese() {
        "cenário de novo para ter resultados que correspondam a elas"},
       {"create a blank priority project", "cria um projeto de prioridades em branco"},
       {"new project written to {1}", "novo projeto escrito em {1}"},
-      {"the general report of a scenario", "o relatório geral de um cenário"},
+      {"the general report of a scenario, or report expressions over its stored run",
+       "o relatório geral de um cenário, ou expressões de relatório sobre sua execução gravada"},
+      {"expression \"{1}\": {2}", "expressão \"{1}\": {2}"},
+      {"option --{1} needs --expression or --expressions",
+       "a opção --{1} precisa de --expression ou --expressions"},
+      {"option --expressions: \"{1}\" holds no expression",
+       "opção --expressions: \"{1}\" não contém expressão alguma"},
       {"run scenarios and store their results", "executa cenários e grava seus resultados"},
       {"opening", "abrindo"},
       {"results not stored, saving was cancelled",
@@ -333,10 +339,39 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "Escreve P.sjson e seu banco de dados P.sjson.sqlite com um cenário de prioridades sem\n"
         "elementos sobre os meses do ano corrente. P ainda não pode existir.\n"}},
       {"report",
-       {"Prints the counts of elements by kind, the initial useful volume of the reservoirs and\n"
-        "the volume each kind of demand requires over the scenario's period.\n",
-        "Mostra a contagem de elementos por tipo, o volume útil inicial dos reservatórios e o\n"
-        "volume que cada tipo de demanda requer no período do cenário.\n"}},
+       {"Without --expression, prints the counts of elements by kind, the initial useful volume\n"
+        "of the reservoirs and the volume each kind of demand requires over the scenario's\n"
+        "period.\n"
+        "With --expression TEXT (repeatable) or --expressions FILE (one expression a line, blank\n"
+        "lines skipped), evaluates each report expression over the latest stored run of the\n"
+        "scenario, in window N (counted from 1, default 1), and prints \"TEXT = VALUE\", one a\n"
+        "line; a value without meaning is \"-\". An expression is arithmetic (+ - * / and\n"
+        "parentheses) over numbers (1.5e-3), report metrics of an element, as\n"
+        "Escassez total em hm3(Irrigação do Submédio), and the operations Min, Max, Sum,\n"
+        "Average, VariancePopulation, VarianceSample, StdDeviationPopulation and\n"
+        "StdDeviationSample over one series of an element, as Max(Sobradinho, Volume final).\n"
+        "A name that holds an operator, a parenthesis or a comma goes in double quotes:\n"
+        "\"Juazeiro-Petrolina\". A minus before an operand negates it.\n"
+        "--dot FILE also writes the tree of every expression as a Graphviz digraph, one after\n"
+        "the other in FILE, each behind a comment line '// TEXT'.\n"
+        "A malformed expression is told on one line with the position of the character at\n"
+        "fault; nothing is then printed or written (exit status 2).\n",
+        "Sem --expression, mostra a contagem de elementos por tipo, o volume útil inicial dos\n"
+        "reservatórios e o volume que cada tipo de demanda requer no período do cenário.\n"
+        "Com --expression TEXT (repetível) ou --expressions FILE (uma expressão por linha,\n"
+        "linhas em branco ignoradas), avalia cada expressão de relatório sobre a última execução\n"
+        "gravada do cenário, na janela N (contada a partir de 1, padrão 1), e mostra\n"
+        "\"TEXT = VALOR\", uma por linha; um valor sem sentido é \"-\". Uma expressão é\n"
+        "aritmética (+ - * / e parênteses) sobre números (1.5e-3), métricas de relatório de um\n"
+        "elemento, como Escassez total em hm3(Irrigação do Submédio), e as operações Min, Max,\n"
+        "Sum, Average, VariancePopulation, VarianceSample, StdDeviationPopulation e\n"
+        "StdDeviationSample sobre uma série de um elemento, como Max(Sobradinho, Volume final).\n"
+        "Um nome que contém um operador, um parêntese ou uma vírgula vai entre aspas duplas:\n"
+        "\"Juazeiro-Petrolina\". Um menos antes de um operando troca seu sinal.\n"
+        "--dot FILE também escreve a árvore de cada expressão como um digraph do Graphviz, uma\n"
+        "após a outra em FILE, cada uma após uma linha de comentário '// TEXT'.\n"
+        "Uma expressão malformada é relatada numa linha com a posição do caractere onde está o\n"
+        "erro; nada é então mostrado nem escrito (código de saída 2).\n"}},
       {"save-as",
        {"Opens P and saves it as Q: the project file Q.sjson and its database Q.sjson.sqlite.\n"
         "Q must not exist yet. Ctrl-C cancels the save and leaves no Q behind (exit status 3).\n",

@@ -2,7 +2,8 @@
 
 #include "Command.h"
 
-// kova report: the general report of a scenario.
+// kova report: the general report of a scenario, or the values of report expressions over its
+// latest stored run.
 class ReportCommand {
  public:
   static Command describe();

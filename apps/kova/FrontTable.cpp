@@ -23,6 +23,11 @@ FrontTable::FrontTable(const RuleOptimizationScenario& scenario, bool withVariab
   for (const auto& function : scenario.getExecutionOptimization().getVectorOfObjectiveFunctions()) {
     names.push_back(function->getType().getName());
   }
+  // The personalised functions follow the fixed ones in every row, the enabled ones only.
+  for (const auto& configuration :
+       scenario.getExecutionOptimization().getVectorOfExpressionDefinitionConfiguration()) {
+    if (configuration.isEnabled()) names.push_back(configuration.getName());
+  }
   if (withVariables) variables = scenario.getMatrixOfSolutions();
 }
 

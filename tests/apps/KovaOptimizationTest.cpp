@@ -11,6 +11,9 @@
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/ObjectiveFunctionFactory.h"
 #include "optimization/RuleOptimizationScenario.h"
+#include "optimization/expression/SerieExpression.h"
+#include "optimization/expression/SummationToSeveralElementsWithSingleFunctionExpression.h"
+#include "project/ExpressionDefinitionSaveFactory.h"
 #include "project/database/LoadProject.h"
 #include "project/database/SQLStorage.h"
 #include "scenario/ScenarioManager.h"
@@ -228,4 +231,62 @@ TEST(KovaOptimization, ASystemCurveIsTheSameOnEveryThreadCountAndMakesNoRuleScen
                              "kova curve"),
             std::string::npos)
       << metrics.err;
+}
+
+TEST(KovaOptimization, APersonalisedObjectiveIsAColumnOfTheFrontAndHoldsForItsSolution) {
+  TemporaryFolder folder("kova_optimisation_");
+  const std::string project = makeDemo(folder);
+  auto scenarios = openProject(project);
+  // The reservoirs of the spills objective.
+  std::vector<unsigned int> reservoirIds;
+  for (const auto& reservoir :
+       dynamic_cast<const RuleOptimizationScenario&>(*named(scenarios, kOptimisation))
+           .getExecutionOptimization()
+           .getVectorOfObjectiveFunctions()
+           .at(1)
+           ->getElements()) {
+    reservoirIds.push_back(reservoir->getId());
+  }
+  closeProject();
+
+  // The sum over those reservoirs of their monthly spills.
+  auto formula = std::make_shared<SummationToSeveralElementsWithSingleFunctionExpression>(
+      std::weak_ptr<ExpressionDefinition>(), "Vertimentos");
+  auto spills = std::make_shared<SerieExpression>(formula, "Vertido");
+  spills->setSerieOutputType(SerieType::spilledVolume);
+  formula->setExpression(spills);
+  formula->setVectorOfElementIDs(reservoirIds);
+  const std::string personalised =
+      R"("personalizedObjectiveFunctions":[{"isMinimization":1,"isEnabled":1,"rootExpression":)" +
+      ExpressionDefinitionSaveFactory::make(formula)->toJson() + R"(,"unit":"hm³"}])";
+  std::string text = readFile(project);
+  const std::string none = R"("personalizedObjectiveFunctions":[])";
+  ASSERT_NE(text.find(none), std::string::npos);
+  writeFile(project, text.replace(text.find(none), none.size(), personalised));
+
+  ASSERT_EQ(kova({"run", project, "--scenario", kOptimisation, "--seed", "3", "--quiet"}).status,
+            exitOk);
+  const std::string front = frontCsv(project);
+  EXPECT_NE(front.find(",Vertimentos"), std::string::npos) << front;
+  ASSERT_EQ(kova({"solution", project, "--scenario", kOptimisation, "--row", "0"}).status, exitOk);
+
+  scenarios = openProject(project);
+  const auto& optimisation =
+      dynamic_cast<const RuleOptimizationScenario&>(*named(scenarios, kOptimisation));
+  const auto solution = named(scenarios, kOptimisation + "-SOL-0");
+  ASSERT_TRUE(solution->run(nullptr));
+  const auto& row = optimisation.getMatrixOfObjectiveFunctionsValues().at(0);
+  ASSERT_EQ(row.size(),
+            optimisation.getExecutionOptimization().getVectorOfObjectiveFunctions().size() + 1);
+  double sum = 0.0;
+  for (const unsigned int id : reservoirIds) {
+    const auto& series = *solution->getElement(id)->getOutputSerie(SerieType::spilledVolume, 0);
+    PeriodWalker::forEach(series.getInterval(),
+                          [&](const Date& date) { sum += series.getValue(date); });
+  }
+  EXPECT_NEAR(row.back(), sum, 1e-9 * sum);
+  EXPECT_GT(sum, 0.0);
+  // The fixed function over the same reservoirs measures the same volume.
+  EXPECT_NEAR(row.back(), row[1], 1e-9 * sum);
+  closeProject();
 }

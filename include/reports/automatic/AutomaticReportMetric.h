@@ -25,10 +25,11 @@ class AutomaticReportMetric {
 
   const ReportMetricTypeEnum& getType() const { return *kind; }
   // The figure of element over window runIndex of scenario, in the unit its name says. Throws
-  // std::invalid_argument "AutomaticReportMetric::calculate(): \"<name>\" does not apply to
-  // <element type>" for an element of another type, "Invalid index value!" for a window the
-  // scenario or the element lacks, "Invalid serie type!" for a series the element lacks and
-  // "The serie is a null pointer" for a series that is not there.
+  // std::invalid_argument "AutomaticReportMetric::calculate(): no element" for a null element,
+  // "AutomaticReportMetric::calculate(): \"<name>\" does not apply to <element type>" for an
+  // element of another type, "Invalid index value!" for a window the scenario or the element
+  // lacks, "Invalid serie type!" for a series the element lacks and "The serie is a null
+  // pointer" for a series that is not there.
   double calculate(const std::shared_ptr<Element>& element,
                    const std::shared_ptr<Scenario>& scenario, unsigned int runIndex) const;
 

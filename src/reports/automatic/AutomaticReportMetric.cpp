@@ -30,6 +30,7 @@ AutomaticReportMetric::AutomaticReportMetric(ReportMetricType type)
 double AutomaticReportMetric::calculate(const std::shared_ptr<Element>& element,
                                         const std::shared_ptr<Scenario>& scenario,
                                         unsigned int runIndex) const {
+  if (!element) throw std::invalid_argument("AutomaticReportMetric::calculate(): no element");
   if (!FactoryOfElementTypeToVectorOfReportMetricTypeEnum::allows(element->getType(),
                                                                   kind->getType())) {
     throw std::invalid_argument("AutomaticReportMetric::calculate(): \"" + kind->getName() +

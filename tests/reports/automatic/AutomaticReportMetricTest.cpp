@@ -245,6 +245,8 @@ TEST(ReportMetrics, TheMetricsOwnFailuresFollowTheSimulationMetrics) {
   const auto met = FactoryOfReportMetricTypeToReportMetric::make(M::averagePercentageOfMetDemand);
   EXPECT_THROW_TEXT(met->calculate(run.d1, run.net.scenario, 1), std::invalid_argument,
                     "Invalid index value!");
+  EXPECT_THROW_TEXT(met->calculate(nullptr, run.net.scenario, 0), std::invalid_argument,
+                    "AutomaticReportMetric::calculate(): no element");
   EXPECT_THROW_TEXT(met->calculate(run.r, run.net.scenario, 0), std::invalid_argument,
                     "AutomaticReportMetric::calculate(): \"Perc. médio de tempo que dem. é "
                     "atend.\" does not apply to Reservatório");

@@ -5,7 +5,9 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 
 #include "ExitStatus.h"
@@ -46,13 +48,17 @@ std::vector<Asked> expressionsAsked(const CommandLine& line) {
   for (const auto& text : line.values("expression")) asked.push_back({text, nullptr});
   if (!line.has("expressions")) return asked;
   const std::string path = line.value("expressions", "");
-  std::ifstream file(path);
+  std::ifstream file(path, std::ios::binary);
   if (!file) throw std::runtime_error(path + ": " + tr("cannot be read"));
-  for (std::string text; std::getline(file, text);) {
+  std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  if (file.bad()) throw std::runtime_error(path + ": " + tr("cannot be read"));
+  // Editors on some systems open a UTF-8 file with a byte-order mark and end lines with CR LF.
+  if (content.rfind("\xEF\xBB\xBF", 0) == 0) content.erase(0, 3);
+  std::istringstream lines(content);
+  for (std::string text; std::getline(lines, text);) {
     if (!text.empty() && text.back() == '\r') text.pop_back();
     if (!blank(text)) asked.push_back({text, nullptr});
   }
-  if (file.bad()) throw std::runtime_error(path + ": " + tr("cannot be read"));
   return asked;
 }
 

@@ -198,9 +198,11 @@ TEST_F(KovaReport, AWindowIsChosenLikeTheMetricsOne) {
 
 TEST_F(KovaReport, AFileOfExpressionsAndTheirDrawingsAsARealProcess) {
   TemporaryFolder work("kova_report_file_");
-  writeFile(work.file("asked.txt"),
-            "Max(Sobradinho, Volume final)\n\n   \r\n2 * (1 + 3)\r\nAverage(Sobradinho, "
-            "Prioridade)\n");
+  // A byte-order mark, a blank line, a line of blanks and CR LF line ends.
+  writeFile(
+      work.file("asked.txt"),
+      "\xEF\xBB\xBFMax(Sobradinho, Volume final)\n\n   \r\n2 * (1 + 3)\r\nAverage(Sobradinho, "
+      "Prioridade)\n");
   const auto run = kovaProcess({"report", project, "--scenario", "Regras", "--expressions",
                                 work.file("asked.txt"), "--dot", work.file("trees.dot")});
   ASSERT_EQ(run.status, exitOk) << run.err;

@@ -59,6 +59,7 @@ class NumericalUtils {
   static double randomUniformNumber(const double& low, const double& high);
   // A uniform integer in [low, high]. Throws std::invalid_argument when low > high.
   static unsigned int randomClosedInterval(unsigned int low, unsigned int high);
-  // 0, 1, ..., n - 1, in random order when shuffled.
+  // 0, 1, ..., n - 1, in random order when shuffled: Fisher-Yates from the last position down,
+  // position i swapping with j = floor(e * (i + 1) / 2^32) for the next 32-bit output e.
   static std::vector<unsigned int> makeVectorOfIndexes(unsigned int n, bool shuffled);
 };

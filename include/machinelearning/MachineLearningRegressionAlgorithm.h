@@ -59,8 +59,8 @@ class MachineLearningRegressionAlgorithm {
   void addEntry(const std::vector<double>& attributes, double value);
   void clearDataset();
   const std::vector<Entry>& getDataset() const;
-  // Replaces the dataset; every entry must have numberOfAttributes attributes (the addEntry()
-  // failure otherwise).
+  // Replaces the dataset, each entry's index becoming its position; every entry must have
+  // numberOfAttributes attributes (the addEntry() failure otherwise).
   void setDataset(const std::vector<Entry>& entries);
   const std::vector<Entry>& getWorkDataset() const;
   const std::vector<Entry>& getTestDataset() const;
@@ -122,8 +122,8 @@ class MachineLearningRegressionAlgorithm {
   std::vector<Entry>& workEntries();
 
  private:
-  // The mean over the validations of the test error, or of the train error.
-  double meanError(const std::vector<Validation>& validations, bool onTrainDataset);
+  // configureOptimize(), buildOptimize(), and the test or the train error of the split.
+  double errorOn(const Validation& validation, bool onTrainDataset);
   // Throws std::invalid_argument with text unless the first split covers the dataset.
   void checkCovers(const std::vector<Validation>& validations, const char* text) const;
 

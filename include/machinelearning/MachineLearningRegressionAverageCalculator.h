@@ -17,6 +17,11 @@ class MachineLearningRegressionAverageCalculator {
   // average.
   static double make(MachineLearningRegressionAverageCalculatorType type,
                      const std::vector<MachineLearningRegressionDatasetEntry>& entries);
+  // The same over values with their weights (used by the weighted types alone), for callers that
+  // average many parts of one list. Throws as above, and VectorStatistics' failure when the sizes
+  // differ.
+  static double make(MachineLearningRegressionAverageCalculatorType type,
+                     const std::vector<double>& values, const std::vector<double>& weights);
   // The weight of one entry in the weighted averages.
   static double weight(const MachineLearningRegressionDatasetEntry& entry);
 };

@@ -73,8 +73,9 @@ class RegressionRandomForestAlgorithm : public MachineLearningRegressionAlgorith
   bool isReplacement() const;
   void setReplacement(bool value);
   const std::vector<TreeInfo>& getVecOfTreeInfo() const;
-  // Throws std::out_of_range "RegressionRandomForestAlgorithm::setVecOfTreeInfo(): attribute
-  // outside the attributes".
+  // Drops the trees grown on the former TreeInfos: build() grows them on these. Throws
+  // std::out_of_range "RegressionRandomForestAlgorithm::setVecOfTreeInfo(): attribute outside the
+  // attributes".
   void setVecOfTreeInfo(const std::vector<TreeInfo>& infos);
   uint32_t getMaxNumberOfLeaves() const;
   void setMaxNumberOfLeaves(uint32_t n);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <mutex>
 #include <numeric>
 #include <random>
@@ -187,10 +188,15 @@ unsigned int NumericalUtils::randomClosedInterval(unsigned int low, unsigned int
 std::vector<unsigned int> NumericalUtils::makeVectorOfIndexes(unsigned int n, bool shuffled) {
   std::vector<unsigned int> indexes(n);
   std::iota(indexes.begin(), indexes.end(), 0u);
-  if (shuffled) {
-    RandomSource& source = randomSource();
-    std::lock_guard<std::mutex> lock(source.mutex);
-    std::shuffle(indexes.begin(), indexes.end(), source.engine);
+  if (!shuffled) return indexes;
+  RandomSource& source = randomSource();
+  std::lock_guard<std::mutex> lock(source.mutex);
+  // Written out rather than std::shuffle, whose draws differ between standard libraries: a
+  // seeded split must be the same wherever it is repeated.
+  for (std::size_t i = indexes.size(); i > 1; --i) {
+    const auto below = static_cast<std::uint64_t>(i);
+    const std::size_t j = static_cast<std::size_t>((source.engine() * below) >> 32);
+    std::swap(indexes[i - 1], indexes[j]);
   }
   return indexes;
 }

@@ -102,4 +102,12 @@ TEST(NumericalUtilsTest, RandomDrawsRepeatUnderTheSameSeed) {
   EXPECT_TRUE(uniform >= 2.0 && uniform < 3.0) << uniform;
 }
 
+TEST(NumericalUtilsTest, ShuffleIsFisherYatesFromTheLastPosition) {
+  // Under the engine's standard seed 5489 the first outputs are 3499211612, 581869302 and
+  // 3890346734. Position 3 swaps with floor(3499211612 * 4 / 2^32) = 3, position 2 with
+  // floor(581869302 * 3 / 2^32) = 0, position 1 with floor(3890346734 * 2 / 2^32) = 1.
+  NumericalUtils::setRandomSeed(5489);
+  EXPECT_EQ((std::vector<unsigned int>{2, 1, 0, 3}), NumericalUtils::makeVectorOfIndexes(4, true));
+}
+
 }  // namespace

@@ -75,8 +75,9 @@ class RegressionTreeAlgorithm : public MachineLearningRegressionAlgorithm {
   int getNumberOfSplits() const;
 
  private:
-  std::shared_ptr<RegressionTreeNode> makeNode(const std::vector<uint32_t>& indexes,
-                                               uint32_t depth);
+  // The node of the entries of info, the best cut of those entries.
+  std::shared_ptr<RegressionTreeNode> makeNode(const RegressionTreeNodeInfo& info, uint32_t depth);
+  double improvement(double totalSSR, const RegressionTreeNodeInfo& info) const;
   bool isSplit(const RegressionTreeNodeInfo& info, std::size_t size, double totalSSR,
                uint32_t depth) const;
   void split(RegressionTreeNode& node, const RegressionTreeNodeInfo& info, double totalSSR,

@@ -89,12 +89,35 @@ RegressionTreeNodeInfo RegressionTreeAlgorithm::getRegressionTreeNodeInfo(
   std::stable_sort(sorted.begin(), sorted.end(), [&entries, attribute](uint32_t a, uint32_t b) {
     return entries[a].attributes[attribute] < entries[b].attributes[attribute];
   });
+  const bool weighted = isWeightedAverage();
+  std::vector<double> values;
+  std::vector<double> weights;
+  for (uint32_t index : sorted) {
+    values.push_back(entries[index].value);
+    if (weighted)
+      weights.push_back(MachineLearningRegressionAverageCalculator::weight(entries[index]));
+  }
+  // The sides are copied into buffers that keep their room from trial to trial: the sweep is
+  // quadratic, and fresh vectors at every trial would cost more than the arithmetic.
+  std::vector<double> side;
+  std::vector<double> sideWeights;
+  const auto averageOf = [&](std::size_t from, std::size_t to) {
+    side.assign(values.begin() + from, values.begin() + to);
+    if (weighted) sideWeights.assign(weights.begin() + from, weights.begin() + to);
+    return MachineLearningRegressionAverageCalculator::make(getAverageCalculatorType().getType(),
+                                                            side, sideWeights);
+  };
+  const auto ssrOf = [&values](std::size_t from, std::size_t to, double around) {
+    double sum = 0.0;
+    for (std::size_t i = from; i < to; ++i) sum += squaredResidual(values[i], around);
+    return sum;
+  };
+  const std::size_t n = sorted.size();
   std::size_t cut = 0;
   // Each trial moves one more entry to the lower side, the last leaving the upper side empty.
-  for (std::size_t leftSize = 1; leftSize <= sorted.size(); ++leftSize) {
-    const std::vector<uint32_t> left(sorted.begin(), sorted.begin() + leftSize);
-    const std::vector<uint32_t> right(sorted.begin() + leftSize, sorted.end());
-    const double ssr = sideSSR(left, sideAverage(left)) + sideSSR(right, sideAverage(right));
+  for (std::size_t leftSize = 1; leftSize <= n; ++leftSize) {
+    const double ssr =
+        ssrOf(0, leftSize, averageOf(0, leftSize)) + ssrOf(leftSize, n, averageOf(leftSize, n));
     if (NumericalUtils::subtractDoubles(info.bestSSR, ssr, kTolerance) > 0.0) {
       info.bestSSR = ssr;
       cut = leftSize - 1;
@@ -102,7 +125,7 @@ RegressionTreeNodeInfo RegressionTreeAlgorithm::getRegressionTreeNodeInfo(
   }
   info.leftIndexes.assign(sorted.begin(), sorted.begin() + cut + 1);
   info.rightIndexes.assign(sorted.begin() + cut + 1, sorted.end());
-  info.average = sideAverage(sorted);
+  info.average = averageOf(0, n);
   return info;
 }
 
@@ -138,7 +161,11 @@ double RegressionTreeAlgorithm::getRightSSR(const RegressionTreeNodeInfo& info) 
 
 double RegressionTreeAlgorithm::getImprovement(double totalSSR,
                                                const std::vector<uint32_t>& indexes) const {
-  const RegressionTreeNodeInfo info = getBestRegressionTreeNodeInfo(indexes);
+  return improvement(totalSSR, getBestRegressionTreeNodeInfo(indexes));
+}
+
+double RegressionTreeAlgorithm::improvement(double totalSSR,
+                                            const RegressionTreeNodeInfo& info) const {
   return 1.0 - (getLeftSSR(info) + getRightSSR(info)) / totalSSR;
 }
 
@@ -191,13 +218,13 @@ int RegressionTreeAlgorithm::getMaxNumberOfSplits() const { return maxNumberOfSp
 int RegressionTreeAlgorithm::getNumberOfSplits() const { return numberOfSplits; }
 
 std::shared_ptr<RegressionTreeNode> RegressionTreeAlgorithm::makeNode(
-    const std::vector<uint32_t>& indexes, uint32_t depth) {
-  const RegressionTreeNodeInfo info = getBestRegressionTreeNodeInfo(indexes);
+    const RegressionTreeNodeInfo& info, uint32_t depth) {
   auto node = std::make_shared<RegressionTreeNode>();
-  node->setNumberOfEntries(static_cast<uint32_t>(indexes.size()));
+  const std::size_t size = info.leftIndexes.size() + info.rightIndexes.size();
+  node->setNumberOfEntries(static_cast<uint32_t>(size));
   const double totalSSR = getTotalSSR(info);
   node->setAttribute(info.attribute);
-  if (isSplit(info, indexes.size(), totalSSR, depth)) {
+  if (isSplit(info, size, totalSSR, depth)) {
     split(*node, info, totalSSR, depth);
   } else {
     node->setValue(info.average);
@@ -218,14 +245,16 @@ void RegressionTreeAlgorithm::split(RegressionTreeNode& node, const RegressionTr
   node.setValue(getWorkDataset()[info.rightIndexes.front()].attributes[info.attribute]);
   ++numberOfSplits;
   ++numberOfLeaves;
-  const double leftImprovement = getImprovement(totalSSR, info.leftIndexes);
-  const double rightImprovement = getImprovement(totalSSR, info.rightIndexes);
-  if (NumericalUtils::subtractDoubles(leftImprovement, rightImprovement, kTolerance) < 0.0) {
-    node.setLeft(makeNode(info.leftIndexes, depth + 1));
-    node.setRight(makeNode(info.rightIndexes, depth + 1));
+  // Each side's best cut tells its improvement and is the start of its own node.
+  const RegressionTreeNodeInfo left = getBestRegressionTreeNodeInfo(info.leftIndexes);
+  const RegressionTreeNodeInfo right = getBestRegressionTreeNodeInfo(info.rightIndexes);
+  if (NumericalUtils::subtractDoubles(improvement(totalSSR, left), improvement(totalSSR, right),
+                                      kTolerance) < 0.0) {
+    node.setLeft(makeNode(left, depth + 1));
+    node.setRight(makeNode(right, depth + 1));
   } else {
-    node.setRight(makeNode(info.rightIndexes, depth + 1));
-    node.setLeft(makeNode(info.leftIndexes, depth + 1));
+    node.setRight(makeNode(right, depth + 1));
+    node.setLeft(makeNode(left, depth + 1));
   }
 }
 
@@ -234,7 +263,7 @@ void RegressionTreeAlgorithm::growTree() {
   numberOfSplits = 0;
   std::vector<uint32_t> indexes(getWorkDataset().size());
   std::iota(indexes.begin(), indexes.end(), 0u);
-  regressionTree.setRoot(makeNode(indexes, 0));
+  regressionTree.setRoot(makeNode(getBestRegressionTreeNodeInfo(indexes), 0));
 }
 
 void RegressionTreeAlgorithm::searchComplexity() {

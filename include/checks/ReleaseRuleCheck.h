@@ -64,6 +64,11 @@ KOVA_RELEASE_RULE_CHECK(OptNoneReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(OptConstReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(OptPeriodicReleaseRuleCheck);
 KOVA_RELEASE_RULE_CHECK(OptSerieReleaseRuleCheck);
+// The learned rules: enough entries for the model's number of entries, and every reservoir whose
+// volume feeds the model enabled.
+KOVA_RELEASE_RULE_CHECK(KNNRegressionColVolumesReleaseRuleCheck);
+KOVA_RELEASE_RULE_CHECK(RegressionTreeColVolumesReleaseRuleCheck);
+KOVA_RELEASE_RULE_CHECK(RegressionRandomForestColVolumesReleaseRuleCheck);
 
 #undef KOVA_RELEASE_RULE_CHECK
 

@@ -6,6 +6,7 @@
 
 class GuaranteeCurveScenario;
 class KOVACoreProgressBar;
+class PriorityScenario;
 class RuleOptimizationScenario;
 class RuleScenario;
 class Scenario;
@@ -31,6 +32,13 @@ class AutomatedScenarioBuilder {
   // for a row the curve does not have; null when progress cancelled it (four steps).
   static std::shared_ptr<RuleScenario> makeRuleScenarioFromGuaranteeCurve(
       const GuaranteeCurveScenario& scenario, unsigned int row, const Progress& progress);
+  // The rule scenario that imitates the stored run of the scenario by priorities, named
+  // "<source>-rule-<kind>": a continuous run over the same interval and network in which each
+  // reservoir gets the rule of the kind of the scenario's addon (a series of the run's releases,
+  // or a model trained on the run) and each node the allocation its links carried. It is stored in
+  // the open project database. Null when progress cancelled it (one step per element and three).
+  static std::shared_ptr<RuleScenario> makeRuleScenarioFromPriority(
+      const PriorityScenario& scenario, const Progress& progress);
   // Replaces every optimisable reservoir rule of scenario by the simulation rule it stands for.
   static void convertOptRuleReleaseToRuleRelease(Scenario& scenario);
 
@@ -38,6 +46,9 @@ class AutomatedScenarioBuilder {
   // A continuous rule scenario with source's network and interval, named source's name + suffix.
   static std::shared_ptr<RuleScenario> continuousCopy(const Scenario& source,
                                                       const std::string& suffix);
+  // Gives scenario, copied from a scenario of another kind, the fresh settings of a rule
+  // scenario: no rules yet, and allocation matrices of one line of zeros.
+  static void withRuleSettings(RuleScenario& scenario);
   // Stores scenario in the open project database; null when bar is cancelled.
   static std::shared_ptr<RuleScenario> store(const std::shared_ptr<RuleScenario>& scenario,
                                              KOVACoreProgressBar& bar);

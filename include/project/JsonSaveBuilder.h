@@ -54,8 +54,10 @@ class JsonSaveBuilder {
   static std::string makeFloatingValue(double value);
   // [a,b,c] with each value as makeFloatingValue().
   static std::string makeVectorOfFloatingValues(const std::vector<double>& values);
-  // [a,b,c] with each value in 17 significant digits, which read back as the very same double
-  // whatever its magnitude (the decision variables of an optimisation, down to the smallest).
+  // value in 17 significant digits, which reads back as the very same double whatever its
+  // magnitude (the decision variables of an optimisation, down to the smallest).
+  static std::string makeExactValue(double value);
+  // [a,b,c] with each value as makeExactValue().
   static std::string makeVectorOfExactValues(const std::vector<double>& values);
   // [a,b,c] with each integer in decimal.
   template <typename T>

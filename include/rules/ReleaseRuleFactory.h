@@ -23,6 +23,9 @@ class ReleaseRuleFactory {
   static std::shared_ptr<ReleaseRule> makeVolDepOnePeriodicRelease();
   static std::shared_ptr<ReleaseRule> makeVolDepTwoStaticRelease();
   static std::shared_ptr<ReleaseRule> makeVolDepTwoPeriodicRelease();
+  static std::shared_ptr<ReleaseRule> makeKNNRegressionColVolumesRelease();
+  static std::shared_ptr<ReleaseRule> makeRegressionTreeColVolumesRelease();
+  static std::shared_ptr<ReleaseRule> makeRegressionRandomForestColVolumesRelease();
   static std::shared_ptr<ReleaseRule> makeOptNoneReleaseRule();
   static std::shared_ptr<ReleaseRule> makeOptConstReleaseRule();
   static std::shared_ptr<ReleaseRule> makeOptPeriodicReleaseRule();

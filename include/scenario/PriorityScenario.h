@@ -7,6 +7,7 @@
 #include "common/Date.h"
 #include "core/HydrologicalStateConfiguration.h"
 #include "core/Scenario.h"
+#include "scenario/ConfigureRuleElementFromPriorityAddon.h"
 
 // An operation by priorities: at each date the network's water goes where a chain of linear
 // programmes, one per priority, sends it, the goals being each reservoir's target volume and each
@@ -39,6 +40,13 @@ class PriorityScenario : public Scenario {
       const override {
     return hydrologicalStateConfiguration;
   }
+  // How the scenario becomes one by rules; the default kind (series of releases) until set.
+  const std::shared_ptr<ConfigureRuleElementFromPriorityAddon>&
+  getConfigureRuleElementFromPriorityAddon() const {
+    return configureRuleElementFromPriorityAddon;
+  }
+  void setConfigureRuleElementFromPriorityAddon(
+      std::shared_ptr<ConfigureRuleElementFromPriorityAddon> addon);
   // The date at which the last run found no optimal solution; empty after any other outcome.
   const std::optional<Date>& getInfeasibleDate() const { return infeasibleDate; }
 
@@ -58,4 +66,5 @@ class PriorityScenario : public Scenario {
 
   std::shared_ptr<HydrologicalStateConfiguration> hydrologicalStateConfiguration;
   std::optional<Date> infeasibleDate;
+  std::shared_ptr<ConfigureRuleElementFromPriorityAddon> configureRuleElementFromPriorityAddon;
 };

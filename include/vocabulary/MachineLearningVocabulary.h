@@ -36,6 +36,15 @@ enum class MachineLearningAlgorithmValidatorType : int32_t {
   holdout = 1,
 };
 
+// How a reservoir of a scenario by priorities becomes a rule: the run's releases as a series
+// (the default) or a model trained on the run.
+enum class ConfigureRuleElementType : int32_t {
+  defaultSerie = 0,
+  knn = 1,
+  regressionTree = 2,
+  randomForest = 3,
+};
+
 // The display names of the machine-learning settings, as the project file stores them.
 class MachineLearningVocabulary {
  public:
@@ -49,12 +58,15 @@ class MachineLearningVocabulary {
       EnumTable<Enum<MachineLearningRegressionErrorType>, MachineLearningRegressionErrorType>;
   using ValidatorTypes =
       EnumTable<Enum<MachineLearningAlgorithmValidatorType>, MachineLearningAlgorithmValidatorType>;
+  using ConfigureRuleTypes = EnumTable<Enum<ConfigureRuleElementType>, ConfigureRuleElementType>;
 
   static const AlgorithmTypes& algorithmTypes();
   static const DistanceTypes& distanceTypes();
   static const AverageTypes& averageTypes();
   static const ErrorTypes& errorTypes();
   static const ValidatorTypes& validatorTypes();
+  // "Padrão", then the names of the three models.
+  static const ConfigureRuleTypes& configureRuleTypes();
 
   static const Enum<MachineLearningRegressionAlgorithmType>& of(
       MachineLearningRegressionAlgorithmType type);
@@ -66,4 +78,5 @@ class MachineLearningVocabulary {
       MachineLearningRegressionErrorType type);
   static const Enum<MachineLearningAlgorithmValidatorType>& of(
       MachineLearningAlgorithmValidatorType type);
+  static const Enum<ConfigureRuleElementType>& of(ConfigureRuleElementType type);
 };

@@ -9,6 +9,7 @@
 #include "core/Scenario.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
+#include "rules/MachineLearningRegressionColVolumesReleaseRule.h"
 #include "rules/OptConstReleaseRule.h"
 #include "rules/OptHydrologicalStateReleaseRule.h"
 #include "rules/OptPeriodicReleaseRule.h"
@@ -36,6 +37,30 @@ void checkDependency(ReleaseRuleCheck* check, const std::shared_ptr<Element>& de
     check->report("Reservatório de dependência não está habilitado:");
   }
 }
+
+using LearnedRule = MachineLearningRegressionColVolumesReleaseRule;
+
+void checkSystemEnabled(ReleaseRuleCheck* check) {
+  for (const auto& reservoir : check->rule<LearnedRule>().getReservoirs()) {
+    if (!reservoir->isEnabled()) {
+      check->report("Os reservatórios associados ao reservatório r não podem estar desabilitados:");
+      return;
+    }
+  }
+}
+
+// The model needs at least its number of entries; a rule without entries fails this too.
+template <const char* text>
+void checkEntries(ReleaseRuleCheck* check) {
+  const auto& rule = check->rule<LearnedRule>();
+  if (rule.getNumberOfEntriesForAverage() > rule.getDataset().size() || rule.getDataset().empty()) {
+    check->report(text);
+  }
+}
+
+constexpr char kTooManyNeighbours[] = "Valor de K superior ao tamanho do dataset em:";
+constexpr char kTooLargeSplit[] =
+    "Valor de mínimo para quebra de nó é superior ao tamanho do dataset em:";
 
 void checkOneDependency(ReleaseRuleCheck* check) {
   checkDependency(check, check->rule<VolDepOneReleaseRule>().getReservoirDependency());
@@ -205,6 +230,22 @@ std::vector<ReleaseRuleCheck::Lambda> OptSerieReleaseRuleCheck::getLambdas() con
   return table;
 }
 
+std::vector<ReleaseRuleCheck::Lambda> KNNRegressionColVolumesReleaseRuleCheck::getLambdas() const {
+  static const std::vector<Lambda> table = {checkEntries<kTooManyNeighbours>, checkSystemEnabled};
+  return table;
+}
+
+std::vector<ReleaseRuleCheck::Lambda> RegressionTreeColVolumesReleaseRuleCheck::getLambdas() const {
+  static const std::vector<Lambda> table = {checkEntries<kTooLargeSplit>, checkSystemEnabled};
+  return table;
+}
+
+std::vector<ReleaseRuleCheck::Lambda> RegressionRandomForestColVolumesReleaseRuleCheck::getLambdas()
+    const {
+  static const std::vector<Lambda> table = {checkEntries<kTooLargeSplit>, checkSystemEnabled};
+  return table;
+}
+
 std::vector<ReleaseRuleCheck::Lambda> HydrologicalStateReleaseRuleCheck::getLambdas() const {
   static const std::vector<Lambda> table = {[](ReleaseRuleCheck* check) {
     const auto& releases = check->rule<HydrologicalStateReleaseRule>().getRelease();
@@ -315,6 +356,18 @@ std::shared_ptr<ReleaseRuleCheck> ReleaseRuleCheckFactory::make(std::weak_ptr<Sc
       {R::periodicVolumeDependence2,
        [](auto s, auto e, auto& x) {
          return std::make_shared<VolDepTwoPeriodicReleaseRuleCheck>(s, e, x);
+       }},
+      {R::knnRegression,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<KNNRegressionColVolumesReleaseRuleCheck>(s, e, x);
+       }},
+      {R::regressionTree,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<RegressionTreeColVolumesReleaseRuleCheck>(s, e, x);
+       }},
+      {R::randomForest,
+       [](auto s, auto e, auto& x) {
+         return std::make_shared<RegressionRandomForestColVolumesReleaseRuleCheck>(s, e, x);
        }},
       {R::optNone,
        [](auto s, auto e, auto& x) { return std::make_shared<OptNoneReleaseRuleCheck>(s, e, x); }},

@@ -7,6 +7,7 @@
 #include "core/ElementsFilter.h"
 #include "core/KOVACoreProgressBar.h"
 #include "core/ReservoirRuleSettings.h"
+#include "managers/ConfigureRuleElementFromPriorityFactory.h"
 #include "operation/ExecutionContinuous.h"
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/OptimizationUtils.h"
@@ -15,6 +16,7 @@
 #include "project/database/DatabaseSceneryCopy.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/OptReleaseRule.h"
+#include "scenario/PriorityScenario.h"
 #include "scenario/ScenarioManager.h"
 
 namespace {
@@ -66,6 +68,39 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromGuar
   }
   if (!bar.update()) return nullptr;
   return store(scenario, bar);
+}
+
+std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromPriority(
+    const PriorityScenario& source, const Progress& progress) {
+  const auto& kind = source.getConfigureRuleElementFromPriorityAddon()->getType();
+  KOVACoreProgressBar bar(0, static_cast<long>(source.getElements().size()) + 3, progress);
+  auto scenario = continuousCopy(source, "-rule-" + kind.getName());
+  withRuleSettings(*scenario);
+  if (!bar.update()) return nullptr;
+  if (!store(scenario, bar)) return nullptr;
+  for (const auto& element : source.getElements()) {
+    ConfigureRuleElementFromPriorityFactory::make(kind.getType(), element->getId(), source,
+                                                  *scenario);
+    if (!bar.update()) return nullptr;
+  }
+  // The learned rules find their reservoirs and learn.
+  scenario->resolveRuleReferences();
+  return scenario;
+}
+
+void AutomatedScenarioBuilder::withRuleSettings(RuleScenario& scenario) {
+  auto& settings = scenario.getSettingsManager();
+  settings = SettingsManager();
+  for (const auto& element : scenario.getElements()) {
+    settings.make(element->getId(), scenario.getScenarioType(), element->getElementType());
+  }
+  for (const bool links : {false, true}) {
+    for (const auto& element : scenario.getElements()) {
+      if (ElementSets::links().count(element->getType()) == (links ? 1u : 0u)) {
+        scenario.posAddElement(element, false);
+      }
+    }
+  }
 }
 
 std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::continuousCopy(const Scenario& source,

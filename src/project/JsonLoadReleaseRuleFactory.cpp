@@ -3,8 +3,11 @@
 #include <functional>
 
 #include "project/JsonLoadHydrologicalStateReleaseRule.h"
+#include "project/JsonLoadKNNRegressionColVolumesReleaseRule.h"
 #include "project/JsonLoadOptReleaseRule.h"
 #include "project/JsonLoadOptVolDepReleaseRule.h"
+#include "project/JsonLoadRegressionRandomForestColVolumesReleaseRule.h"
+#include "project/JsonLoadRegressionTreeColVolumesReleaseRule.h"
 #include "project/JsonLoadVolDepOneReleaseRule.h"
 #include "project/JsonLoadVolDepTwoReleaseRule.h"
 #include "project/JsonMakerTable.h"
@@ -36,6 +39,10 @@ const JsonMakerTable<Maker>& makers() {
           {nameOf(R::periodicVolumeDependence1), makeReader<JsonLoadVolDepOneReleaseRule>},
           {nameOf(R::staticVolumeDependence2), makeReader<JsonLoadVolDepTwoReleaseRule>},
           {nameOf(R::periodicVolumeDependence2), makeReader<JsonLoadVolDepTwoReleaseRule>},
+          {nameOf(R::knnRegression), makeReader<JsonLoadKNNRegressionColVolumesReleaseRule>},
+          {nameOf(R::regressionTree), makeReader<JsonLoadRegressionTreeColVolumesReleaseRule>},
+          {nameOf(R::randomForest),
+           makeReader<JsonLoadRegressionRandomForestColVolumesReleaseRule>},
           {nameOf(R::optNone), makeReader<JsonLoadReleaseRule>},
           {nameOf(R::optConstant), makeReader<JsonLoadOptConstReleaseRule>},
           {nameOf(R::optPeriodic), makeReader<JsonLoadOptPeriodicReleaseRule>},

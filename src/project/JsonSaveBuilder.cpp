@@ -78,13 +78,15 @@ std::string JsonSaveBuilder::makeVectorOfFloatingValues(const std::vector<double
   return makeArray(values, makeFloatingValue);
 }
 
+std::string JsonSaveBuilder::makeExactValue(double value) {
+  std::ostringstream out;
+  out.imbue(std::locale::classic());
+  out << std::setprecision(std::numeric_limits<double>::max_digits10) << value;
+  return out.str();
+}
+
 std::string JsonSaveBuilder::makeVectorOfExactValues(const std::vector<double>& values) {
-  return makeArray(values, [](double value) {
-    std::ostringstream out;
-    out.imbue(std::locale::classic());
-    out << std::setprecision(std::numeric_limits<double>::max_digits10) << value;
-    return out.str();
-  });
+  return makeArray(values, makeExactValue);
 }
 
 std::string JsonSaveBuilder::makeSerie(const Serie& serie) {

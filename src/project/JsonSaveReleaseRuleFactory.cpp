@@ -4,8 +4,11 @@
 
 #include "project/JsonMakerTable.h"
 #include "project/JsonSaveHydrologicalStateReleaseRule.h"
+#include "project/JsonSaveKNNRegressionColVolumesReleaseRule.h"
 #include "project/JsonSaveOptReleaseRule.h"
 #include "project/JsonSaveOptVolDepReleaseRule.h"
+#include "project/JsonSaveRegressionRandomForestColVolumesReleaseRule.h"
+#include "project/JsonSaveRegressionTreeColVolumesReleaseRule.h"
 #include "project/JsonSaveVolDepOneReleaseRule.h"
 #include "project/JsonSaveVolDepTwoReleaseRule.h"
 #include "vocabulary/Vocabulary.h"
@@ -35,6 +38,10 @@ const JsonMakerTable<Maker>& makers() {
           {nameOf(R::periodicVolumeDependence1), makeWriter<JsonSaveVolDepOneReleaseRule>},
           {nameOf(R::staticVolumeDependence2), makeWriter<JsonSaveVolDepTwoReleaseRule>},
           {nameOf(R::periodicVolumeDependence2), makeWriter<JsonSaveVolDepTwoReleaseRule>},
+          {nameOf(R::knnRegression), makeWriter<JsonSaveKNNRegressionColVolumesReleaseRule>},
+          {nameOf(R::regressionTree), makeWriter<JsonSaveRegressionTreeColVolumesReleaseRule>},
+          {nameOf(R::randomForest),
+           makeWriter<JsonSaveRegressionRandomForestColVolumesReleaseRule>},
           {nameOf(R::optNone), makeWriter<JsonSaveReleaseRule>},
           {nameOf(R::optConstant), makeWriter<JsonSaveOptConstReleaseRule>},
           {nameOf(R::optPeriodic), makeWriter<JsonSaveOptPeriodicReleaseRule>},

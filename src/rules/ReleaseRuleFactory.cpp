@@ -5,6 +5,7 @@
 
 #include "rules/ConstReleaseRule.h"
 #include "rules/HydrologicalStateReleaseRule.h"
+#include "rules/KNNRegressionColVolumesReleaseRule.h"
 #include "rules/NoneReleaseRule.h"
 #include "rules/OptConstReleaseRule.h"
 #include "rules/OptHydrologicalStateReleaseRule.h"
@@ -16,6 +17,8 @@
 #include "rules/OptVolDepTwoPeriodicReleaseRule.h"
 #include "rules/OptVolDepTwoStaticReleaseRule.h"
 #include "rules/PeriodicReleaseRule.h"
+#include "rules/RegressionRandomForestColVolumesReleaseRule.h"
+#include "rules/RegressionTreeColVolumesReleaseRule.h"
 #include "rules/SerieReleaseRule.h"
 #include "rules/VolDepOnePeriodicReleaseRule.h"
 #include "rules/VolDepOneStaticReleaseRule.h"
@@ -40,6 +43,9 @@ const std::map<ReleaseRuleType, Maker>& makersByType() {
       {R::periodicVolumeDependence1, ReleaseRuleFactory::makeVolDepOnePeriodicRelease},
       {R::staticVolumeDependence2, ReleaseRuleFactory::makeVolDepTwoStaticRelease},
       {R::periodicVolumeDependence2, ReleaseRuleFactory::makeVolDepTwoPeriodicRelease},
+      {R::knnRegression, ReleaseRuleFactory::makeKNNRegressionColVolumesRelease},
+      {R::regressionTree, ReleaseRuleFactory::makeRegressionTreeColVolumesRelease},
+      {R::randomForest, ReleaseRuleFactory::makeRegressionRandomForestColVolumesRelease},
       {R::optNone, ReleaseRuleFactory::makeOptNoneReleaseRule},
       {R::optConstant, ReleaseRuleFactory::makeOptConstReleaseRule},
       {R::optPeriodic, ReleaseRuleFactory::makeOptPeriodicReleaseRule},
@@ -117,6 +123,18 @@ std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeVolDepTwoStaticRelease() {
 
 std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeVolDepTwoPeriodicRelease() {
   return std::make_shared<VolDepTwoPeriodicReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeKNNRegressionColVolumesRelease() {
+  return std::make_shared<KNNRegressionColVolumesReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeRegressionTreeColVolumesRelease() {
+  return std::make_shared<RegressionTreeColVolumesReleaseRule>();
+}
+
+std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeRegressionRandomForestColVolumesRelease() {
+  return std::make_shared<RegressionRandomForestColVolumesReleaseRule>();
 }
 
 std::shared_ptr<ReleaseRule> ReleaseRuleFactory::makeOptNoneReleaseRule() {

@@ -1,5 +1,7 @@
 #include "scenario/PriorityScenario.h"
 
+#include <stdexcept>
+
 #include "checks/SceneryCheckFactory.h"
 #include "core/ElementSets.h"
 #include "core/ElementsFilter.h"
@@ -24,7 +26,18 @@ PriorityScenario::PriorityScenario(const std::shared_ptr<ExecutionMethod>& execu
                                    unsigned int id, const Interval& interval,
                                    const std::string& name)
     : Scenario(executionMethod, id, interval, name),
-      hydrologicalStateConfiguration(std::make_shared<HydrologicalStateConfiguration>()) {}
+      hydrologicalStateConfiguration(std::make_shared<HydrologicalStateConfiguration>()),
+      configureRuleElementFromPriorityAddon(
+          std::make_shared<ConfigureRuleElementFromPriorityAddon>()) {}
+
+void PriorityScenario::setConfigureRuleElementFromPriorityAddon(
+    std::shared_ptr<ConfigureRuleElementFromPriorityAddon> addon) {
+  if (!addon) {
+    throw std::invalid_argument(
+        "PriorityScenario::setConfigureRuleElementFromPriorityAddon(): the addon is nullptr");
+  }
+  configureRuleElementFromPriorityAddon = std::move(addon);
+}
 
 Enum<ScenarioType> PriorityScenario::getScenarioType() const {
   return Vocabulary::of(ScenarioType::priorityOptimizer);
@@ -104,6 +117,7 @@ std::shared_ptr<Scenario> PriorityScenario::copySpecific() const {
   auto copy = std::make_shared<PriorityScenario>(getExecutionMethod()->copy(), getId(),
                                                  getInterval(), getName());
   copy->hydrologicalStateConfiguration = hydrologicalStateConfiguration->copy();
+  copy->configureRuleElementFromPriorityAddon = configureRuleElementFromPriorityAddon->copy();
   return copy;
 }
 

@@ -62,6 +62,18 @@ const MachineLearningVocabulary::ValidatorTypes& MachineLearningVocabulary::vali
   return table;
 }
 
+const MachineLearningVocabulary::ConfigureRuleTypes&
+MachineLearningVocabulary::configureRuleTypes() {
+  using C = ConfigureRuleElementType;
+  static const ConfigureRuleTypes table({
+      {C::defaultSerie, "Padrão"},
+      {C::knn, of(MachineLearningRegressionAlgorithmType::knn).getName()},
+      {C::regressionTree, of(MachineLearningRegressionAlgorithmType::regressionTree).getName()},
+      {C::randomForest, of(MachineLearningRegressionAlgorithmType::randomForest).getName()},
+  });
+  return table;
+}
+
 const Enum<MachineLearningRegressionAlgorithmType>& MachineLearningVocabulary::of(
     MachineLearningRegressionAlgorithmType type) {
   return rowOf(algorithmTypes(), type);
@@ -85,4 +97,8 @@ const Enum<MachineLearningRegressionErrorType>& MachineLearningVocabulary::of(
 const Enum<MachineLearningAlgorithmValidatorType>& MachineLearningVocabulary::of(
     MachineLearningAlgorithmValidatorType type) {
   return rowOf(validatorTypes(), type);
+}
+
+const Enum<ConfigureRuleElementType>& MachineLearningVocabulary::of(ConfigureRuleElementType type) {
+  return rowOf(configureRuleTypes(), type);
 }

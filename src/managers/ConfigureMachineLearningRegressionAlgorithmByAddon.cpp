@@ -1,0 +1,87 @@
+#include "managers/ConfigureMachineLearningRegressionAlgorithmByAddon.h"
+
+#include <map>
+#include <stdexcept>
+
+#include "machinelearning/KNNRegressionAlgorithm.h"
+#include "machinelearning/RegressionRandomForestAlgorithm.h"
+#include "machinelearning/RegressionTreeAlgorithm.h"
+#include "scenario/ConfigureRuleElementFromPriorityKNNAddon.h"
+#include "scenario/ConfigureRuleElementFromPriorityRandomForestAddon.h"
+#include "scenario/ConfigureRuleElementFromPriorityRegressionTreeAddon.h"
+
+namespace {
+
+constexpr const char* kInvalidType =
+    "ConfigureMachineLearningRegressionAlgorithm::make(): invalid type";
+
+// The pair of the algorithm and the addon as the kind Model, Addon they must both be.
+template <typename Model, typename Addon>
+std::pair<Model&, const Addon&> asKind(MachineLearningRegressionAlgorithm& algorithm,
+                                       const ConfigureRuleElementFromPriorityAddon& addon) {
+  auto* model = dynamic_cast<Model*>(&algorithm);
+  const auto* settings = dynamic_cast<const Addon*>(&addon);
+  if (model == nullptr || settings == nullptr) throw std::invalid_argument(kInvalidType);
+  return {*model, *settings};
+}
+
+}  // namespace
+
+void ConfigureMachineLearningRegressionAlgorithmByAddon::make(
+    MachineLearningRegressionAlgorithm& algorithm,
+    const ConfigureRuleElementFromPriorityAddon& addon) {
+  using C = ConfigureRuleElementType;
+  static const std::map<ConfigureRuleElementType,
+                        void (*)(MachineLearningRegressionAlgorithm&,
+                                 const ConfigureRuleElementFromPriorityAddon&)>
+      kinds{{C::knn, makeKNN},
+            {C::regressionTree, makeRegressionTree},
+            {C::randomForest, makeRandomForest}};
+  const auto found = kinds.find(addon.getType().getType());
+  if (found == kinds.end()) throw std::invalid_argument(kInvalidType);
+  makeDefault(algorithm, addon);
+  found->second(algorithm, addon);
+}
+
+void ConfigureMachineLearningRegressionAlgorithmByAddon::makeDefault(
+    MachineLearningRegressionAlgorithm& algorithm,
+    const ConfigureRuleElementFromPriorityAddon& addon) {
+  algorithm.setNumberOfEntriesForAverage(addon.getNumberOfEntriesForAverage());
+  algorithm.setDistanceCalculatorType(addon.getDistanceCalculatorType().getType());
+  algorithm.setAverageCalculatorType(addon.getAverageCalculatorType().getType());
+  algorithm.setErrorType(addon.getErrorType().getType());
+}
+
+void ConfigureMachineLearningRegressionAlgorithmByAddon::makeKNN(
+    MachineLearningRegressionAlgorithm& algorithm,
+    const ConfigureRuleElementFromPriorityAddon& addon) {
+  auto [knn, settings] =
+      asKind<KNNRegressionAlgorithm, ConfigureRuleElementFromPriorityKNNAddon>(algorithm, addon);
+  knn.setNormalize(settings.isNormalize());
+}
+
+void ConfigureMachineLearningRegressionAlgorithmByAddon::makeRegressionTree(
+    MachineLearningRegressionAlgorithm& algorithm,
+    const ConfigureRuleElementFromPriorityAddon& addon) {
+  auto [tree, settings] =
+      asKind<RegressionTreeAlgorithm, ConfigureRuleElementFromPriorityRegressionTreeAddon>(
+          algorithm, addon);
+  tree.setMaxNumberOfLeaves(settings.getTreeLimits().maxNumberOfLeaves);
+  tree.setMaxDepth(settings.getTreeLimits().maxDepth);
+  tree.setCp(settings.getTreeLimits().cp);
+}
+
+void ConfigureMachineLearningRegressionAlgorithmByAddon::makeRandomForest(
+    MachineLearningRegressionAlgorithm& algorithm,
+    const ConfigureRuleElementFromPriorityAddon& addon) {
+  auto [forest, settings] =
+      asKind<RegressionRandomForestAlgorithm, ConfigureRuleElementFromPriorityRandomForestAddon>(
+          algorithm, addon);
+  forest.setNumberOfTrees(settings.getNumberOfTrees());
+  forest.setNumberOfAttributesInTree(settings.getNumberOfAttributesInTree());
+  forest.setDatasetPercentInTree(settings.getDatasetPercentInTree());
+  forest.setReplacement(settings.isReplacement());
+  forest.setMaxNumberOfLeaves(settings.getTreeLimits().maxNumberOfLeaves);
+  forest.setMaxDepth(settings.getTreeLimits().maxDepth);
+  forest.setCp(settings.getTreeLimits().cp);
+}

@@ -61,7 +61,7 @@ class AutomaticReportExpression {
   // The 1-based character position of the node in its text.
   std::size_t getPosition() const { return position; }
 
-  // Throws std::invalid_argument "position N: what".
+  // Throws std::invalid_argument "position N: what", control characters in what as blanks.
   [[noreturn]] static void failAt(std::size_t position, const std::string& what);
 
  protected:

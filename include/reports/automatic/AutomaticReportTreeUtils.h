@@ -12,7 +12,7 @@ class AutomaticReportTreeUtils {
   // ... in the order of a walk that visits a node before its children.
   static std::string drawGraphVizStartingOfNode(const AutomaticReportExpression& root);
   // The line of node number id: "n<id> [label=\"<label>\"];\n", with the quotes and backslashes
-  // of the label escaped.
+  // of the label escaped and its control characters as blanks.
   static std::string getNodeDescInGraphViz(unsigned int id, const std::string& label);
   // The line of the edge between two numbered nodes: "n<from> -> n<to>;\n".
   static std::string getEdgeDescInGraphViz(unsigned int from, unsigned int to);

@@ -15,7 +15,12 @@ void AutomaticReportExpression::drawGraphvizOfSubTree(std::ostream& out, unsigne
 }
 
 void AutomaticReportExpression::failAt(std::size_t position, const std::string& what) {
-  throw std::invalid_argument("position " + std::to_string(position) + ": " + what);
+  std::string line = what;
+  // A name read from the text may hold line breaks and tabs; the failure stays one line.
+  for (char& c : line) {
+    if (static_cast<unsigned char>(c) < 0x20) c = ' ';
+  }
+  throw std::invalid_argument("position " + std::to_string(position) + ": " + line);
 }
 
 void AutomaticReportExpression::fail(const std::string& what) const { failAt(position, what); }

@@ -19,7 +19,7 @@ std::string AutomaticReportTreeUtils::getNodeDescInGraphViz(unsigned int id,
   std::string escaped;
   for (char c : label) {
     if (c == '"' || c == '\\') escaped += '\\';
-    escaped += c;
+    escaped += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
   }
   return "n" + std::to_string(id) + " [label=\"" + escaped + "\"];\n";
 }

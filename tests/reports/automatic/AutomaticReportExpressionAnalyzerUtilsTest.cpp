@@ -113,8 +113,8 @@ TEST(ReportExpressionDrawing, ASmallTreeIsDrawnNodeBeforeChildren) {
             "n6 -> n8;\n"
             "n8 [label=\"3\"];\n"
             "}\n");
-  EXPECT_EQ(AutomaticReportTreeUtils::getNodeDescInGraphViz(3, "a\"b\\c"),
-            "n3 [label=\"a\\\"b\\\\c\"];\n");
+  EXPECT_EQ(AutomaticReportTreeUtils::getNodeDescInGraphViz(3, "a\"b\\c\nd"),
+            "n3 [label=\"a\\\"b\\\\c d\"];\n");
 }
 
 TEST(ReportExpressionDrawing, GraphvizAcceptsTheDrawingOfADeepTree) {
@@ -178,6 +178,7 @@ TEST(ReportExpressionParser, MalformedTextsNameThePositionAndWhatIsWrong) {
       {"(Sobradinho)", "position 2: \"Sobradinho\" is neither a number nor a call"},
       {"1 , 2", "position 3: unexpected \",\" outside the arguments of a call"},
       {"1 + \x01", "position 5: unexpected control character"},
+      {"1 + Sobradinho\nNorte", "position 5: \"Sobradinho Norte\" is neither a number nor a call"},
       {"1 / 0", "position 3: division by zero"},
       {"1 / -0.0", "position 3: division by zero"},
       {"1e999", "position 1: the number 1e999 is out of range"},

@@ -55,9 +55,11 @@ class RegressionTreeAlgorithm : public MachineLearningRegressionAlgorithm {
   double getRightSSR(const RegressionTreeNodeInfo& info) const;
   // 1 - (leftSSR + rightSSR) / totalSSR of the best cut of indexes.
   double getImprovement(double totalSSR, const std::vector<uint32_t>& indexes) const;
-  // sum((y - tree(x))^2) / sum((y - average)^2) over workDataset.
+  // sum((y - tree(x))^2) / sum((y - average)^2) over workDataset; getValue()'s failure without a
+  // tree.
   double getRelativeError() const;
-  // The prediction of the grown tree for x.
+  // The prediction of the tree below node for x. Throws std::runtime_error
+  // "RegressionTreeAlgorithm::getValue(): tree not built" for a null node.
   double getValue(const std::shared_ptr<RegressionTreeNode>& node,
                   const std::vector<double>& x) const;
 

@@ -184,6 +184,7 @@ double RegressionTreeAlgorithm::getRelativeError() const {
 
 double RegressionTreeAlgorithm::getValue(const std::shared_ptr<RegressionTreeNode>& node,
                                          const std::vector<double>& x) const {
+  if (!node) throw std::runtime_error("RegressionTreeAlgorithm::getValue(): tree not built");
   const RegressionTreeNode* at = node.get();
   while (!at->isLeaf()) {
     const bool below =

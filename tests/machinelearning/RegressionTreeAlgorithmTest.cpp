@@ -203,6 +203,8 @@ TEST(RegressionTreeAlgorithmTest, Failures) {
   tree.setNumberOfEntriesForAverage(1);
   EXPECT_THROW_TEXT(tree.runNormal({1}), std::runtime_error,
                     "RegressionTreeAlgorithm::run(): tree not built");
+  EXPECT_THROW_TEXT(tree.getRelativeError(), std::runtime_error,
+                    "RegressionTreeAlgorithm::getValue(): tree not built");
 }
 
 }  // namespace

@@ -129,6 +129,21 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"no release reaches the guarantee {1} %",
        "nenhuma vazão liberada alcança a garantia de {1} %"},
       {"reservoir \"{1}\" failed a level", "o reservatório \"{1}\" falhou em um nível"},
+      {"make the rule scenario that follows the stored run of a scenario by priorities",
+       "cria o cenário de regras que segue a execução gravada de um cenário por prioridades"},
+      {"option --kind: \"{1}\" is not one of knn, tree, forest, series",
+       "opção --kind: \"{1}\" não é knn, tree, forest nem series"},
+      {"scenario \"{1}\" is a \"{2}\" scenario, not one by priorities (\"Otimizador por "
+       "prioridades\")",
+       "o cenário \"{1}\" é um cenário \"{2}\", não um cenário por prioridades (\"Otimizador "
+       "por prioridades\")"},
+      {"{1}: made from the stored run of \"{2}\" and saved",
+       "{1}: criado a partir da execução gravada de \"{2}\" e gravado"},
+      {"mean squared error of each model over five folds of its entries ((m³/s)²):",
+       "erro quadrático médio de cada modelo em cinco partições de seus dados ((m³/s)²):"},
+      {"reservoir", "reservatório"},
+      {"test", "teste"},
+      {"train", "treino"},
       {"make the rule scenario of one row of a front or of a guarantee curve",
        "cria o cenário de regras de uma linha de uma frente ou de uma curva de garantia"},
       {"scenario \"{1}\" is a system guarantee curve, which keeps the flow of its out reservoir "
@@ -459,6 +474,33 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "saída de erro padrão.\n"
         "Código de saída: 0 mostrada, 1 o cenário não tem curva gravada, 2 erro de uso ou de\n"
         "arquivo.\n"}},
+      {"derive-rules",
+       {"Makes the rule scenario \"NAME-rule-<kind>\" that follows the stored run of the\n"
+        "scenario by priorities NAME: the same network and period, run continuously, each node\n"
+        "sharing its outflow among its links as they shared it in the run (the mean share of\n"
+        "each total flow), and each reservoir releasing by the kind of rule chosen: series, the\n"
+        "run's own releases; knn, tree or forest, a nearest-neighbour, regression-tree or\n"
+        "random-forest model of its release against the volumes with which each period began\n"
+        "of all the reservoirs, trained on the run's periods. --entries K (default 5) is the\n"
+        "number of neighbours averaged, or the least number of periods of a node a tree may\n"
+        "split. --seed N makes the forest's draws repeatable. For a model it prints, per\n"
+        "reservoir, the mean squared error over five folds of its periods. The scenario is\n"
+        "saved into the project.\n"
+        "Exit status: 0 made, 2 usage or file error (no stored run, the scenario exists), 3\n"
+        "cancelled.\n",
+        "Cria o cenário de regras \"NAME-rule-<tipo>\" que segue a execução gravada do cenário\n"
+        "por prioridades NAME: a mesma rede e o mesmo período, executados de forma contínua,\n"
+        "cada nó repartindo sua vazão de saída entre seus trechos como na execução (a parcela\n"
+        "média de cada vazão total), e cada reservatório liberando pelo tipo de regra escolhido:\n"
+        "series, as próprias liberações da execução; knn, tree ou forest, um modelo de vizinhos\n"
+        "mais próximos, árvore de regressão ou floresta aleatória de sua liberação em função dos\n"
+        "volumes com que cada período começou em todos os reservatórios, treinado nos períodos\n"
+        "da execução. --entries K (padrão 5) é o número de vizinhos na média, ou o menor número\n"
+        "de períodos de um nó que uma árvore pode dividir. --seed N torna repetíveis os sorteios\n"
+        "da floresta. Para um modelo, mostra por reservatório o erro quadrático médio em cinco\n"
+        "partições de seus períodos. O cenário é gravado no projeto.\n"
+        "Código de saída: 0 criado, 2 erro de uso ou de arquivo (sem execução gravada, o cenário\n"
+        "já existe), 3 cancelado.\n"}},
       {"solution",
        {"Makes the rule scenario \"NAME-SOL-I\" out of row I of the stored front of the rule\n"
         "optimisation NAME (the rows 'kova front' prints): the same network and period, run\n"

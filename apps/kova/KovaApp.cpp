@@ -7,6 +7,7 @@
 #include "CompareCommand.h"
 #include "CurveCommand.h"
 #include "DemoCommand.h"
+#include "DeriveRulesCommand.h"
 #include "ErrorText.h"
 #include "ExitStatus.h"
 #include "ExportCommand.h"
@@ -40,11 +41,12 @@ bool asksForHelp(const std::vector<std::string>& args) {
 
 const std::vector<Command>& KovaApp::commands() {
   static const std::vector<Command> all = {
-      InfoCommand::describe(),    CheckCommand::describe(),  RunCommand::describe(),
-      MetricsCommand::describe(), SeriesCommand::describe(), CompareCommand::describe(),
-      FrontCommand::describe(),   CurveCommand::describe(),  SolutionCommand::describe(),
-      ReportCommand::describe(),  ExportCommand::describe(), NewCommand::describe(),
-      SaveAsCommand::describe(),  DemoCommand::describe(),   GenerateCommand::describe()};
+      InfoCommand::describe(),        CheckCommand::describe(),  RunCommand::describe(),
+      MetricsCommand::describe(),     SeriesCommand::describe(), CompareCommand::describe(),
+      FrontCommand::describe(),       CurveCommand::describe(),  SolutionCommand::describe(),
+      DeriveRulesCommand::describe(), ReportCommand::describe(), ExportCommand::describe(),
+      NewCommand::describe(),         SaveAsCommand::describe(), DemoCommand::describe(),
+      GenerateCommand::describe()};
   return all;
 }
 

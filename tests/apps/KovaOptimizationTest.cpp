@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "DemoCopy.h"
 #include "ExitStatus.h"
 #include "KovaInProcess.h"
 #include "common/NumericalUtils.h"
@@ -25,23 +26,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string kOptimisation = "Otimização das regras";
-
-// The demo project over 1931-1933, nothing run yet: made once, and copied into folder for each
-// test, which may change its copy.
-std::string makeDemo(const TemporaryFolder& folder) {
-  static const TemporaryFolder pristine("kova_optimisation_demo_");
-  static const bool made = [] {
-    const auto demo =
-        kova({"demo", pristine.file(""), "--data", KOVA_DEMO_DATA, "--until", "1933", "--quiet"});
-    EXPECT_EQ(demo.status, exitOk) << demo.err;
-    return demo.status == exitOk;
-  }();
-  EXPECT_TRUE(made);
-  for (const auto& entry : fs::directory_iterator(pristine.file(""))) {
-    fs::copy(entry.path(), folder.file(entry.path().filename().string()));
-  }
-  return folder.file("sao_francisco.sjson");
-}
 
 std::string frontCsv(const std::string& project) {
   const auto front = kova({"front", project, "--scenario", kOptimisation, "--format", "csv"});
@@ -77,7 +61,7 @@ std::shared_ptr<Scenario> named(const std::vector<std::shared_ptr<Scenario>>& sc
 
 TEST(KovaOptimization, ASeededRunPrintsAndStoresTheSameFrontOnOneAndTwoThreads) {
   TemporaryFolder folder("kova_optimisation_");
-  const std::string project = makeDemo(folder);
+  const std::string project = copyOfDemo(folder);
   const std::string fileBefore = readFile(project);
 
   const auto dry = kova({"run", project, "--scenario", kOptimisation, "--seed", "4", "--threads",
@@ -109,7 +93,7 @@ TEST(KovaOptimization, ASeededRunPrintsAndStoresTheSameFrontOnOneAndTwoThreads) 
 
 TEST(KovaOptimization, TheScenarioOfARowReproducesItsObjectivesExactly) {
   TemporaryFolder folder("kova_optimisation_");
-  const std::string project = makeDemo(folder);
+  const std::string project = copyOfDemo(folder);
   ASSERT_EQ(kova({"run", project, "--scenario", kOptimisation, "--seed", "2", "--quiet"}).status,
             exitOk);
   const auto made = kova({"solution", project, "--scenario", kOptimisation, "--row", "0"});
@@ -145,7 +129,7 @@ TEST(KovaOptimization, TheScenarioOfARowReproducesItsObjectivesExactly) {
 
 TEST(KovaOptimization, FrontAndSolutionRefuseWhatTheyCannotActOn) {
   TemporaryFolder folder("kova_optimisation_");
-  const std::string project = makeDemo(folder);
+  const std::string project = copyOfDemo(folder);
   const auto notRun = kova({"front", project, "--scenario", kOptimisation});
   EXPECT_EQ(notRun.status, exitFindings);
   EXPECT_EQ(notRun.err, "kova front: scenario \"" + kOptimisation +
@@ -167,7 +151,7 @@ TEST(KovaOptimization, FrontAndSolutionRefuseWhatTheyCannotActOn) {
 
 TEST(KovaOptimization, AGuaranteeCurveIsPrintedStoredAndReproducedByItsRuleScenario) {
   TemporaryFolder folder("kova_optimisation_");
-  const std::string project = makeDemo(folder);
+  const std::string project = copyOfDemo(folder);
   const std::string name = "Curva de garantia";
   const auto run = kova({"run", project, "--scenario", name, "--seed", "6", "--quiet"});
   ASSERT_EQ(run.status, exitOk) << run.err;
@@ -178,7 +162,7 @@ TEST(KovaOptimization, AGuaranteeCurveIsPrintedStoredAndReproducedByItsRuleScena
 
   // The same seed finds the same curve again.
   TemporaryFolder other("kova_optimisation_");
-  const std::string copy = makeDemo(other);
+  const std::string copy = copyOfDemo(other);
   ASSERT_EQ(kova({"run", copy, "--scenario", name, "--seed", "6", "--quiet"}).status, exitOk);
   EXPECT_EQ(kova({"curve", copy, "--scenario", name, "--format", "csv"}).out, stored.out);
 
@@ -207,7 +191,7 @@ TEST(KovaOptimization, AGuaranteeCurveIsPrintedStoredAndReproducedByItsRuleScena
 
 TEST(KovaOptimization, ASystemCurveIsTheSameOnEveryThreadCountAndMakesNoRuleScenario) {
   TemporaryFolder folder("kova_optimisation_");
-  const std::string project = makeDemo(folder);
+  const std::string project = copyOfDemo(folder);
   const std::string name = "Curva de garantia do sistema";
   const auto dry = kova({"run", project, "--scenario", name, "--seed", "3", "--threads", "2",
                          "--no-save", "--quiet"});
@@ -235,7 +219,7 @@ TEST(KovaOptimization, ASystemCurveIsTheSameOnEveryThreadCountAndMakesNoRuleScen
 
 TEST(KovaOptimization, APersonalisedObjectiveIsAColumnOfTheFrontAndHoldsForItsSolution) {
   TemporaryFolder folder("kova_optimisation_");
-  const std::string project = makeDemo(folder);
+  const std::string project = copyOfDemo(folder);
   auto scenarios = openProject(project);
   // The reservoirs of the spills objective.
   std::vector<unsigned int> reservoirIds;

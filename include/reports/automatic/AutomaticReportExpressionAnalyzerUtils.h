@@ -25,8 +25,8 @@
 // error.
 class AutomaticReportExpressionAnalyzerUtils {
  public:
-  // How deep operators, parentheses and calls may nest: deeper texts are refused rather than
-  // read at the risk of the stack.
+  // How deep operators, signs and calls may nest (parentheses alone do not count): deeper texts
+  // are refused rather than read at the risk of the stack.
   static constexpr std::size_t kMaximumDepth = 200;
 
   // The tree of text. Throws std::invalid_argument with one line "position N: <what is wrong or

@@ -80,17 +80,21 @@ class Parser {
     }
   }
 
-  void checkBalance(Span span) const {
+  // Checks that every parenthesis and quote is closed and remembers where.
+  void checkBalance(Span span) {
+    closing.assign(text.size(), std::string::npos);
     std::vector<std::size_t> open;
     for (std::size_t i = span.begin; i < span.end; ++i) {
       if (text[i] == '"') {
-        const std::size_t closing = text.find('"', i + 1);
-        if (closing >= span.end) failAt(i, "the quote is never closed");
-        i = closing;
+        const std::size_t quote = text.find('"', i + 1);
+        if (quote >= span.end) failAt(i, "the quote is never closed");
+        closing[i] = quote + 1;
+        i = quote;
       } else if (text[i] == '(') {
         open.push_back(i);
       } else if (text[i] == ')') {
         if (open.empty()) failAt(i, "\")\" without a matching \"(\"");
+        closing[open.back()] = i + 1;
         open.pop_back();
       }
     }
@@ -104,18 +108,7 @@ class Parser {
   }
 
   // The offset after the quote or the parenthesis that closes the one at open.
-  std::size_t after(std::size_t open) const {
-    if (text[open] == '"') return text.find('"', open + 1) + 1;
-    int level = 0;
-    for (std::size_t i = open;; ++i) {
-      if (text[i] == '"')
-        i = text.find('"', i + 1);
-      else if (text[i] == '(')
-        ++level;
-      else if (text[i] == ')' && --level == 0)
-        return i + 1;
-    }
-  }
+  std::size_t after(std::size_t open) const { return closing[open]; }
 
   // Whether the sign at offset belongs to the exponent of a number, as in 1.5e-3.
   bool isExponentSign(Span span, std::size_t offset) const {
@@ -157,12 +150,21 @@ class Parser {
     Expression node = expression(span, depth);
     const auto* leaf = dynamic_cast<const AutomaticReportExpressionTerminator*>(node.get());
     if (leaf != nullptr && !leaf->isNumber()) {
-      failAt(span.begin, quoted(leaf->getText()) + " is neither a number nor a call");
+      AutomaticReportExpression::failAt(
+          leaf->getPosition(), quoted(leaf->getText()) + " is neither a number nor a call");
     }
     return node;
   }
 
+  // Parentheses around the whole span are taken off in a loop: only operators, signs and calls
+  // count as levels, so that the text print() gives, which puts every operator in parentheses,
+  // nests no deeper than the text it came from.
   Expression expression(Span span, std::size_t depth) {
+    while (text[span.begin] == '(' && after(span.begin) == span.end) {
+      const Span inner = trimmed({span.begin + 1, span.end - 1});
+      if (inner.empty()) failAt(span.begin, "expected an expression inside the parentheses");
+      span = inner;
+    }
     if (depth > AutomaticReportExpressionAnalyzerUtils::kMaximumDepth) {
       failAt(span.begin, "the expression is nested deeper than " +
                              std::to_string(AutomaticReportExpressionAnalyzerUtils::kMaximumDepth) +
@@ -176,7 +178,7 @@ class Parser {
       case '+':
         failAt(span.begin, "expected an operand before \"+\"");
       case '(':
-        return group(span, depth);
+        failAt(trimmed({after(span.begin), span.end}).begin, "expected an operator after \")\"");
       case '"':
         return quotedName(span);
       default:
@@ -219,14 +221,6 @@ class Parser {
   void expectNothingAfter(Span span, std::size_t end, const std::string& what) const {
     const Span rest = trimmed({end, span.end});
     if (!rest.empty()) failAt(rest.begin, what);
-  }
-
-  Expression group(Span span, std::size_t depth) {
-    const std::size_t end = after(span.begin);
-    expectNothingAfter(span, end, "expected an operator after \")\"");
-    const Span inner = trimmed({span.begin + 1, end - 1});
-    if (inner.empty()) failAt(span.begin, "expected an expression inside the parentheses");
-    return value(inner, depth + 1);
   }
 
   Expression quotedName(Span span) {
@@ -307,6 +301,8 @@ class Parser {
   // The 1-based position of the character at each byte offset, UTF-8 continuation bytes taking
   // that of the character they continue.
   std::vector<std::size_t> characters;
+  // The offset after the closing parenthesis or quote of each opening one.
+  std::vector<std::size_t> closing;
 };
 
 }  // namespace

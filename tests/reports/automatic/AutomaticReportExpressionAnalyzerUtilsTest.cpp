@@ -43,6 +43,7 @@ TEST(ReportExpressionParser, BindsParenthesesFirstThenProductsThenSumsFromTheLef
       {"2 * 3 + 4 * 5", 26.0, "((2 * 3) + (4 * 5))"},
       {"10 - (4 - 3)", 9.0, "(10 - (4 - 3))"},
       {"((((7))))", 7.0, "7"},
+      {repeated("(", 5000) + "7" + repeated(")", 5000), 7.0, "7"},  // parentheses alone nest freely
       {"  1+2\t", 3.0, "(1 + 2)"},
       {"1.5e-3 * 1000", 1.5, "(1.5e-3 * 1000)"},  // the sign of an exponent is no operator
       {"2E+2 - 1e2", 100.0, "(2E+2 - 1e2)"},
@@ -61,6 +62,15 @@ TEST(ReportExpressionParser, BindsParenthesesFirstThenProductsThenSumsFromTheLef
     EXPECT_EQ(tree->print(), c.tree);
     EXPECT_EQ(Utils::strToExp(tree->print())->print(), c.tree);
   }
+}
+
+// print() puts every operator in parentheses; they must not make the printed text too deep.
+TEST(ReportExpressionParser, ATreeNearTheDepthLimitPrintsAsATextThatReadsBack) {
+  const auto tree = Utils::strToExp("-(1" + repeated(" - 1", 195) + ")");
+  EXPECT_EQ(tree->calculate({}), 194.0);
+  const std::string printed = tree->print();
+  EXPECT_EQ(printed.rfind("(0 - " + repeated("(", 195) + "1 - 1) - 1)", 0), 0u);
+  EXPECT_EQ(Utils::strToExp(printed)->print(), printed);
 }
 
 TEST(ReportExpressionParser, CallsTakeNamesPlainOrInQuotes) {
@@ -205,8 +215,8 @@ TEST(ReportExpressionParser, MalformedTextsNameThePositionAndWhatIsWrong) {
       {"\"\"", "position 1: the name in quotes is empty"},
       {"Max(\"A\"B, Volume final)", "position 8: unexpected text after the closing quote"},
       {"Max(A\"B\", Volume final)", "position 6: unexpected quote: a name in quotes stands alone"},
-      {repeated("(", 300) + "1" + repeated(")", 300),
-       "position 202: the expression is nested deeper than 200 levels"},
+      {repeated("-(", 300) + "1" + repeated(")", 300),
+       "position 403: the expression is nested deeper than 200 levels"},
       {"1" + repeated(" + 1", 300), "position 1: the expression is nested deeper than 200 levels"},
   };
   for (const Case& c : cases) {

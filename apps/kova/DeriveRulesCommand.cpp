@@ -15,6 +15,7 @@
 #include "machinelearning/MachineLearningDatasetIndexesToTest.h"
 #include "machinelearning/RegressionRandomForestAlgorithm.h"
 #include "managers/AutomatedScenarioBuilder.h"
+#include "managers/MachineLearningRegressionColVolumesReleaseRuleNumberOfEntriesOfAverageOptimizer.h"
 #include "rules/MachineLearningRegressionColVolumesReleaseRule.h"
 #include "scenario/ConfigureRuleElementFromPriorityAddonFactory.h"
 #include "scenario/PriorityScenario.h"
@@ -70,7 +71,8 @@ std::shared_ptr<ConfigureRuleElementFromPriorityAddon> addonOf(const Scenario& s
 // The mean squared errors of each reservoir's model over five folds of its entries, on the
 // entries each fold leaves out and on those it trains on.
 void printErrors(const RuleScenario& scenario, Console& console) {
-  std::vector<std::vector<std::string>> lines{{tr("reservoir"), tr("test"), tr("train")}};
+  std::vector<std::vector<std::string>> lines{
+      {tr("reservoir"), tr("entries"), tr("test"), tr("train")}};
   for (const auto& reservoir :
        ElementsFilter::filterByType(scenario.getElements(), ElementSets::reservoir())) {
     const auto rule = std::dynamic_pointer_cast<MachineLearningRegressionColVolumesReleaseRule>(
@@ -81,8 +83,8 @@ void printErrors(const RuleScenario& scenario, Console& console) {
     const auto folds = MachineLearningDatasetIndexesToTest::makeKFoldCrossValidationStr(
         static_cast<uint32_t>(model->getDataset().size()), kTrainPercent, false);
     const auto [test, train] = model->getError(folds, model->getNumberOfEntriesForAverage());
-    lines.push_back(
-        {reservoir->getName(), TextColumns::number(test, 6), TextColumns::number(train, 6)});
+    lines.push_back({reservoir->getName(), std::to_string(model->getNumberOfEntriesForAverage()),
+                     TextColumns::number(test, 6), TextColumns::number(train, 6)});
   }
   console.out << tr("mean squared error of each model over five folds of its entries ((m³/s)²):")
               << '\n';
@@ -93,11 +95,11 @@ void printErrors(const RuleScenario& scenario, Console& console) {
 
 Command DeriveRulesCommand::describe() {
   return {"derive-rules",
-          "kova derive-rules P.sjson --scenario NAME --kind knn|tree|forest|series [--entries K] "
-          "[--seed N]",
+          "kova derive-rules P.sjson --scenario NAME --kind knn|tree|forest|series [--entries K | "
+          "--best-entries MAX] [--seed N]",
           tr("make the rule scenario that follows the stored run of a scenario by priorities"),
           HostText::help("derive-rules"),
-          {{"scenario", "kind", "entries", "seed"}, {}, {}, 1, 1},
+          {{"scenario", "kind", "entries", "best-entries", "seed"}, {}, {}, 1, 1},
           run};
 }
 
@@ -114,6 +116,9 @@ int DeriveRulesCommand::run(const CommandLine& line, Console& console) {
       throw UsageError(tr("the project already has a scenario named \"{1}\"", {name}));
     }
   }
+  if (line.has("entries") && line.has("best-entries")) {
+    throw UsageError(tr("options --entries and --best-entries exclude each other"));
+  }
   const unsigned long entries = line.number("entries", 5, 1);
   if (line.has("seed")) RegressionRandomForestAlgorithm::setSeed(line.number("seed", 0, 0));
   project.loadLatestResults(scenario);
@@ -121,6 +126,12 @@ int DeriveRulesCommand::run(const CommandLine& line, Console& console) {
   const auto made = AutomatedScenarioBuilder::makeRuleScenarioFromPriority(
       *priority, [](long, long) { return !Interrupt::requested(); });
   if (!made) return exitCancelled;
+  const bool learned = kind != ConfigureRuleElementType::defaultSerie;
+  if (learned && line.has("best-entries")) {
+    MachineLearningRegressionColVolumesReleaseRuleNumberOfEntriesOfAverageOptimizer::make(
+        *made, MachineLearningAlgorithmValidatorType::kFoldCrossValidation, kTrainPercent,
+        static_cast<uint32_t>(line.number("best-entries", 1, 1)));
+  }
   const auto& sceneries = ScenarioManager::getInstance().getSceneries();
   ScenarioManager::getInstance().addScenery(sceneries.empty() ? 0 : sceneries.rbegin()->first + 1,
                                             made);
@@ -128,6 +139,6 @@ int DeriveRulesCommand::run(const CommandLine& line, Console& console) {
   console.out << tr("{1}: made from the stored run of \"{2}\" and saved",
                     {name, scenario->getName()})
               << '\n';
-  if (kind != ConfigureRuleElementType::defaultSerie) printErrors(*made, console);
+  if (learned) printErrors(*made, console);
   return exitOk;
 }

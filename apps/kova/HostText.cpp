@@ -142,6 +142,9 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"mean squared error of each model over five folds of its entries ((m³/s)²):",
        "erro quadrático médio de cada modelo em cinco partições de seus dados ((m³/s)²):"},
       {"reservoir", "reservatório"},
+      {"entries", "entradas"},
+      {"options --entries and --best-entries exclude each other",
+       "as opções --entries e --best-entries se excluem"},
       {"test", "teste"},
       {"train", "treino"},
       {"make the rule scenario of one row of a front or of a guarantee curve",
@@ -483,9 +486,10 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "random-forest model of its release against the volumes with which each period began\n"
         "of all the reservoirs, trained on the run's periods. --entries K (default 5) is the\n"
         "number of neighbours averaged, or the least number of periods of a node a tree may\n"
-        "split. --seed N makes the forest's draws repeatable. For a model it prints, per\n"
-        "reservoir, the mean squared error over five folds of its periods. The scenario is\n"
-        "saved into the project.\n"
+        "split; --best-entries MAX chooses it per reservoir, from 1 to MAX, as the number that\n"
+        "errs least over five folds of the periods. --seed N makes the forest's draws\n"
+        "repeatable. For a model it prints, per reservoir, the number of entries and the mean\n"
+        "squared error over five folds of its periods. The scenario is saved into the project.\n"
         "Exit status: 0 made, 2 usage or file error (no stored run, the scenario exists), 3\n"
         "cancelled.\n",
         "Cria o cenário de regras \"NAME-rule-<tipo>\" que segue a execução gravada do cenário\n"
@@ -496,9 +500,11 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "mais próximos, árvore de regressão ou floresta aleatória de sua liberação em função dos\n"
         "volumes com que cada período começou em todos os reservatórios, treinado nos períodos\n"
         "da execução. --entries K (padrão 5) é o número de vizinhos na média, ou o menor número\n"
-        "de períodos de um nó que uma árvore pode dividir. --seed N torna repetíveis os sorteios\n"
-        "da floresta. Para um modelo, mostra por reservatório o erro quadrático médio em cinco\n"
-        "partições de seus períodos. O cenário é gravado no projeto.\n"
+        "de períodos de um nó que uma árvore pode dividir; --best-entries MAX o escolhe por\n"
+        "reservatório, de 1 a MAX, como o número que menos erra em cinco partições dos períodos.\n"
+        "--seed N torna repetíveis os sorteios da floresta. Para um modelo, mostra por\n"
+        "reservatório o número de entradas e o erro quadrático médio em cinco partições de seus\n"
+        "períodos. O cenário é gravado no projeto.\n"
         "Código de saída: 0 criado, 2 erro de uso ou de arquivo (sem execução gravada, o cenário\n"
         "já existe), 3 cancelado.\n"}},
       {"solution",

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <sstream>
+#include <vector>
+
 #include "DemoCopy.h"
 #include "ExitStatus.h"
 #include "KovaInProcess.h"
@@ -70,6 +74,37 @@ TEST(KovaDeriveRules, AModelPrintsTheErrorOfEachReservoirAndItsScenarioRuns) {
                   "3", "--seed", "4"})
                 .out,
             made.out);
+}
+
+TEST(KovaDeriveRules, TheBestNumberOfEntriesIsChosenPerReservoirWithinTheLimitGiven) {
+  TemporaryFolder folder("kova_derive_");
+  const std::string project = copyOfDemo(folder);
+  ASSERT_EQ(kova({"run", project, "--scenario", kPriority, "--quiet"}).status, exitOk);
+  const auto both = kova({"derive-rules", project, "--scenario", kPriority, "--kind", "knn",
+                          "--entries", "3", "--best-entries", "6"});
+  EXPECT_EQ(both.status, exitUsage);
+  EXPECT_NE(both.err.find("options --entries and --best-entries exclude each other"),
+            std::string::npos);
+  const auto made = kova(
+      {"derive-rules", project, "--scenario", kPriority, "--kind", "knn", "--best-entries", "6"});
+  ASSERT_EQ(made.status, exitOk) << made.err;
+  std::istringstream lines(made.out);
+  std::string line;
+  std::getline(lines, line);  // made and saved
+  std::getline(lines, line);  // what the errors are
+  std::getline(lines, line);  // headings
+  int reservoirs = 0;
+  while (std::getline(lines, line)) {
+    // The last three columns: entries, test error, train error.
+    std::istringstream fields(line);
+    std::vector<std::string> words{std::istream_iterator<std::string>(fields), {}};
+    ASSERT_GE(words.size(), 4u) << line;
+    const int entries = std::stoi(words[words.size() - 3]);
+    EXPECT_GE(entries, 1) << line;
+    EXPECT_LE(entries, 6) << line;
+    ++reservoirs;
+  }
+  EXPECT_EQ(reservoirs, 5);
 }
 
 TEST(KovaDeriveRules, WrongKindsAndScenariosAreRefused) {

@@ -7,6 +7,7 @@
 #include "machinelearning/RegressionRandomForestAlgorithm.h"
 #include "managers/AutomatedScenarioBuilder.h"
 #include "managers/ConfigureRuleElementFromPriorityFactory.h"
+#include "managers/MachineLearningRegressionColVolumesReleaseRuleNumberOfEntriesOfAverageOptimizer.h"
 #include "operation/PriorityNetworkBuilder.h"
 #include "project/JsonSaveBuilder.h"
 #include "project/database/DatabaseTestSupport.h"
@@ -149,6 +150,26 @@ TEST_F(RulesFromPriority, OneNeighbourAnswersTheRunsOwnPeriods) {
     }
     EXPECT_TRUE(rules->run(nullptr)) << findings(*rules);
   }
+}
+
+TEST_F(RulesFromPriority, TheSearchForTheNumberOfEntriesKeepsTheOneThatErrsLeast) {
+  using Optimizer = MachineLearningRegressionColVolumesReleaseRuleNumberOfEntriesOfAverageOptimizer;
+  EXPECT_EQ(Optimizer::getMaxOptimizeNumberOfEntriesOfAverage(12), 9u);
+  const auto rules = derived(ConfigureRuleElementType::knn, 3);
+  ASSERT_TRUE(rules);
+  const auto rule = ruleOf<MachineLearningRegressionColVolumesReleaseRule>(*rules, upper);
+  const auto kFold = MachineLearningAlgorithmValidatorType::kFoldCrossValidation;
+  const auto errors = Optimizer::makeError(*rule, kFold, 75.0, 20);
+  ASSERT_EQ(errors.size(), 9u);                         // up to 80 % of the twelve periods
+  EXPECT_EQ(rule->getNumberOfEntriesForAverage(), 3u);  // makeError leaves the rule as it was
+  std::size_t best = 0;
+  for (std::size_t i = 1; i < errors.size(); ++i) {
+    if (errors[best].first - errors[i].first > 1e-6) best = i;
+  }
+  const auto found = Optimizer::make(*rules, kFold, 75.0, 20);
+  EXPECT_EQ(found.at(upper->getId()), best + 1);
+  EXPECT_EQ(rule->getNumberOfEntriesForAverage(), best + 1);
+  EXPECT_EQ(Optimizer::make(*rules, kFold, 75.0, 1).at(lower->getId()), 1u);
 }
 
 TEST_F(RulesFromPriority, AForestReleasesWithinTheRangeOfTheRunAndTheSameForTheSameSeed) {

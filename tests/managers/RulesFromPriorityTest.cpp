@@ -7,6 +7,7 @@
 #include "machinelearning/RegressionRandomForestAlgorithm.h"
 #include "managers/AutomatedScenarioBuilder.h"
 #include "managers/ConfigureRuleElementFromPriorityFactory.h"
+#include "managers/DoConfigureRuleElementAddonFromRegressionAlgorithm.h"
 #include "managers/MachineLearningRegressionColVolumesReleaseRuleNumberOfEntriesOfAverageOptimizer.h"
 #include "operation/PriorityNetworkBuilder.h"
 #include "project/JsonSaveBuilder.h"
@@ -266,6 +267,38 @@ TEST_F(RulesFromPriority, AllocationLinesAreTheMeanSplitOfEachTotalOfTheRun) {
     EXPECT_NEAR(shares, totals[line], 1e-6) << "line " << line;
     EXPECT_GT(totals[line], 0.0);
   }
+}
+
+TEST_F(RulesFromPriority, ARulesSettingsGoBackIntoTheSettingsOfItsKind) {
+  auto addon = std::make_shared<ConfigureRuleElementFromPriorityRandomForestAddon>();
+  addon->setNumberOfTrees(7);
+  addon->setDatasetPercentInTree(60.0);
+  addon->setReplacement(false);
+  addon->setTreeLimits({4, 3, 0.01});
+  addon->setAverageCalculatorType(MachineLearningRegressionAverageCalculatorType::harmonic);
+  addon->setNumberOfEntriesForAverage(2);
+  net.scenario->setConfigureRuleElementFromPriorityAddon(addon);
+  const auto rules = AutomatedScenarioBuilder::makeRuleScenarioFromPriority(*net.scenario, nullptr);
+  ASSERT_TRUE(rules);
+  const auto rule = ruleOf<RegressionRandomForestColVolumesReleaseRule>(*rules, upper);
+  ASSERT_TRUE(rule);
+  EXPECT_EQ(rule->getVecOfTreeInfo().size(), 7u);
+
+  auto back = std::make_shared<ConfigureRuleElementFromPriorityRandomForestAddon>();
+  DoConfigureRuleElementAddonFromRegressionAlgorithm::configure(*rule, *back);
+  EXPECT_EQ(back->getNumberOfTrees(), 7u);
+  EXPECT_EQ(back->getDatasetPercentInTree(), 60.0);
+  EXPECT_FALSE(back->isReplacement());
+  EXPECT_EQ(back->getTreeLimits().maxNumberOfLeaves, 4u);
+  EXPECT_EQ(back->getTreeLimits().maxDepth, 3u);
+  EXPECT_EQ(back->getTreeLimits().cp, 0.01);
+  EXPECT_EQ(back->getAverageCalculatorType().getName(), "Média harmônica");
+  EXPECT_EQ(back->getNumberOfEntriesForAverage(), 2u);
+  auto wrong = ConfigureRuleElementFromPriorityAddonFactory::makeKNNAddon();
+  EXPECT_THROW_TEXT(
+      DoConfigureRuleElementAddonFromRegressionAlgorithm::configure(*rule, *wrong),
+      std::invalid_argument,
+      "DoConfigureRuleElementAddonFromRegressionAlgorithm::configure(): invalid type");
 }
 
 TEST_F(RulesFromPriority, UnknownKindsAreRefused) {

@@ -130,9 +130,7 @@ TEST(ProjectFactories, UnknownKeysHaveTheirMessages) {
        "JsonLoadRegressionTechniqueFactory::make(): invalid regressionType"},
       {[] { JsonSaveRegressionTechniqueFactory::make(nullptr); },
        "JsonSaveRegressionTechniqueFactory::make(): invalid regressionType"},
-      {[&] {
-         JsonLoadReleaseRuleFactory::make("Liberação via KNN de regressão", nullptr, scenario);
-       },
+      {[&] { JsonLoadReleaseRuleFactory::make("Liberação via rede neural", nullptr, scenario); },
        "JsonLoadReleaseRuleFactory::make(): invalid ReleaseRuleType"},
   };
   for (const auto& [make, message] : misses) {

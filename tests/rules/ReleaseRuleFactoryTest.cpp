@@ -15,24 +15,14 @@ std::type_index classOf(const std::shared_ptr<ReleaseRule>& rule) {
   return typeid(object);
 }
 
-bool notYetAvailable(ReleaseRuleType type) {
-  return type == ReleaseRuleType::knnRegression || type == ReleaseRuleType::regressionTree ||
-         type == ReleaseRuleType::randomForest;
-}
-
 }  // namespace
 
 // Every rule is made by type and by name alike, says it is of the type asked for, and copies
-// itself into a new rule of its class with the run's settings; the learned rules are refused.
+// itself into a new rule of its class with the run's settings.
 TEST(ReleaseRuleFactory, MakesAndCopiesEveryRule) {
   const Interval interval(Date(1990, 1, 1), Date(1990, 12, 1), Vocabulary::of(Periodicity::daily));
   for (const auto& row : Vocabulary::releaseRuleTypes().getRows()) {
     SCOPED_TRACE(row.getName());
-    if (notYetAvailable(row.getType())) {
-      EXPECT_THROW_TEXT(ReleaseRuleFactory::make(row.getType()), std::invalid_argument, kRefusal);
-      EXPECT_THROW_TEXT(ReleaseRuleFactory::make(row.getName()), std::invalid_argument, kRefusal);
-      continue;
-    }
     const auto rule = ReleaseRuleFactory::make(row.getType());
     EXPECT_EQ(rule->getType(), row);
     EXPECT_EQ(classOf(ReleaseRuleFactory::make(row.getName())), classOf(rule));

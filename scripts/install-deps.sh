@@ -13,6 +13,7 @@ packages=(
   nlohmann-json3-dev
   libboost-date-time-dev libboost-nowide-dev libboost-filesystem-dev
   libminizip-dev libshp-dev
+  graphviz
 )
 
 for argument in "$@"; do

@@ -151,15 +151,6 @@ ExpressionPtr everyKind(const std::vector<unsigned int>& ids) {
   return sum;
 }
 
-std::string saved(const std::shared_ptr<Scenario>& scenario, const std::string& path) {
-  auto& manager = ScenarioManager::getInstance();
-  manager.clear();
-  manager.addScenery(0, scenario);
-  EXPECT_TRUE(JsonSaveBuilder::save(path));
-  manager.clear();
-  return projectfile::readFile(path);
-}
-
 std::shared_ptr<RuleOptimizationScenario> loaded(const std::string& path) {
   const auto scenarios = JsonProjectLoader::load(path);
   return std::dynamic_pointer_cast<RuleOptimizationScenario>(scenarios.at(0));
@@ -209,10 +200,10 @@ class PersonalizedFormula : public ExpressionProjectFileTest {
 
 TEST_F(PersonalizedFormula, AFormulaOfEveryKindComesBackByteIdenticalAndEvaluatesAlike) {
   projectfile::TemporaryFolder folder;
-  const std::string first = saved(scenario, folder.file("first.sjson"));
+  const std::string first = projectfile::saved({scenario}, folder.file("first.sjson"));
   const auto again = loaded(folder.file("first.sjson"));
   ASSERT_TRUE(again);
-  EXPECT_EQ(saved(again, folder.file("second.sjson")), first);
+  EXPECT_EQ(projectfile::saved({again}, folder.file("second.sjson")), first);
 
   const auto& original = formulaOf(*scenario);
   const auto& reloaded = formulaOf(*again);
@@ -247,7 +238,7 @@ TEST_F(PersonalizedFormula, AFormulaOfEveryKindComesBackByteIdenticalAndEvaluate
 
 TEST_F(PersonalizedFormula, SeriesAreReadByTheirResultKind) {
   projectfile::TemporaryFolder folder;
-  const std::string text = saved(scenario, folder.file("p.sjson"));
+  const std::string text = projectfile::saved({scenario}, folder.file("p.sjson"));
   const auto path = folder.file("edited.sjson");
   const auto firstSerieOf = [&](const std::string& edited) {
     projectfile::writeFile(path, edited);
@@ -268,7 +259,7 @@ TEST_F(PersonalizedFormula, SeriesAreReadByTheirResultKind) {
 
 TEST_F(PersonalizedFormula, AWrongFormulaIsOneLineNamingItsPlace) {
   projectfile::TemporaryFolder folder;
-  const std::string text = saved(scenario, folder.file("p.sjson"));
+  const std::string text = projectfile::saved({scenario}, folder.file("p.sjson"));
   const std::string path = folder.file("bad.sjson");
   using projectfile::replaced;
   const std::string twoContexts =

@@ -51,15 +51,6 @@ std::shared_ptr<SystemGuaranteeCurveScenario> computedSystemCurve() {
   return cascade.scenario;
 }
 
-std::string saved(const std::shared_ptr<Scenario>& scenario, const std::string& path) {
-  auto& manager = ScenarioManager::getInstance();
-  manager.clear();
-  manager.addScenery(0, scenario);
-  EXPECT_TRUE(JsonSaveBuilder::save(path));
-  manager.clear();
-  return projectfile::readFile(path);
-}
-
 // scenario saved as a project with its database and opened again, the same as it was, or null.
 std::shared_ptr<Scenario> throughDatabase(const std::shared_ptr<Scenario>& scenario,
                                           const projectfile::TemporaryFolder& folder) {
@@ -111,7 +102,7 @@ TEST_F(GuaranteeCurveProjectFileTest, AComputedCurveComesBackByteIdenticalThroug
   projectfile::TemporaryFolder folder;
   const auto scenario = computedCurve();
   ASSERT_FALSE(curveOf(*scenario).getGuaranteeStr().guarantees.empty());
-  const std::string text = saved(scenario, folder.file("curva.sjson"));
+  const std::string text = projectfile::saved({scenario}, folder.file("curva.sjson"));
   EXPECT_NE(text.find(R"("ExecutionMethodType":"Curva de garantia")"), std::string::npos);
   EXPECT_NE(text.find(R"("numOfIterations":25,"OnlyQ90":0,"GuaranteeCurveStr":{)"
                       R"("guaranteeValues":[40,62.5,90,100],"reservoirsIds":[)"),
@@ -121,7 +112,7 @@ TEST_F(GuaranteeCurveProjectFileTest, AComputedCurveComesBackByteIdenticalThroug
 
   const auto loaded = JsonProjectLoader::load(folder.file("curva.sjson"));
   ASSERT_EQ(loaded.size(), 1u);
-  EXPECT_EQ(saved(loaded[0], folder.file("again.sjson")), text);
+  EXPECT_EQ(projectfile::saved({loaded[0]}, folder.file("again.sjson")), text);
   EXPECT_EQ(curveOf(*loaded[0]).getGuaranteeStr(), curveOf(*scenario).getGuaranteeStr());
   EXPECT_EQ(curveOf(*loaded[0]).getNumberOfIterations(), 25u);
 
@@ -136,7 +127,7 @@ TEST_F(GuaranteeCurveProjectFileTest, AComputedCurveComesBackByteIdenticalThroug
 
 TEST_F(GuaranteeCurveProjectFileTest, AWrongCurveIsOneLineNamingItsPlace) {
   projectfile::TemporaryFolder folder;
-  const std::string text = saved(computedCurve(), folder.file("curva.sjson"));
+  const std::string text = projectfile::saved({computedCurve()}, folder.file("curva.sjson"));
   const std::vector<Flaw> cases = {
       {R"("guaranteeValues":[40,)", R"("guaranteeValues":[0,)",
        "ExecutionGuaranteeCurve::setGuaranteeValues(): a guarantee must be above 0 and at most "
@@ -154,7 +145,7 @@ TEST_F(GuaranteeCurveProjectFileTest, ASystemCurveComesBackByteIdenticalThroughF
   const auto scenario = computedSystemCurve();
   const auto& curve = systemCurveOf(*scenario).getSystemGuaranteeCurveStr();
   ASSERT_FALSE(curve.guarantees.empty());
-  const std::string text = saved(scenario, folder.file("sistema.sjson"));
+  const std::string text = projectfile::saved({scenario}, folder.file("sistema.sjson"));
   const std::string out = std::to_string(curve.outSystemReservoirId);
   EXPECT_NE(text.find(R"("outSystemReservoirId":)" + out +
                       R"(,"OnlyQ90":0,"OptAlgorithm":{)"
@@ -165,7 +156,7 @@ TEST_F(GuaranteeCurveProjectFileTest, ASystemCurveComesBackByteIdenticalThroughF
 
   const auto loaded = JsonProjectLoader::load(folder.file("sistema.sjson"));
   ASSERT_EQ(loaded.size(), 1u);
-  EXPECT_EQ(saved(loaded[0], folder.file("again.sjson")), text);
+  EXPECT_EQ(projectfile::saved({loaded[0]}, folder.file("again.sjson")), text);
   EXPECT_EQ(systemCurveOf(*loaded[0]).getSystemGuaranteeCurveStr(), curve);
 
   const auto opened = throughDatabase(scenario, folder);
@@ -185,7 +176,8 @@ TEST_F(GuaranteeCurveProjectFileTest, ASystemCurveComesBackByteIdenticalThroughF
 
 TEST_F(GuaranteeCurveProjectFileTest, AWrongSystemCurveOrMethodIsOneLineNamingItsPlace) {
   projectfile::TemporaryFolder folder;
-  const std::string text = saved(computedSystemCurve(), folder.file("sistema.sjson"));
+  const std::string text =
+      projectfile::saved({computedSystemCurve()}, folder.file("sistema.sjson"));
   const std::vector<Flaw> cases = {
       {R"("type":"PSO")", R"("type":"GA")",
        "getSystemGuaranteeCurveAlgorithmTypeByString(): Invalid optimization algorithm type"},

@@ -27,18 +27,6 @@ std::shared_ptr<RuleOptimizationScenario> twoReservoirs(OptimizationAlgorithmTyp
   return scenario;
 }
 
-std::string saved(const std::vector<std::shared_ptr<Scenario>>& scenarios,
-                  const std::string& path) {
-  auto& manager = ScenarioManager::getInstance();
-  manager.clear();
-  for (unsigned int index = 0; index < scenarios.size(); ++index) {
-    manager.addScenery(index, scenarios[index]);
-  }
-  EXPECT_TRUE(JsonSaveBuilder::save(path));
-  manager.clear();
-  return projectfile::readFile(path);
-}
-
 std::shared_ptr<RuleOptimizationScenario> loadedOptimisation(const std::string& path) {
   const auto loaded = JsonProjectLoader::load(path);
   EXPECT_EQ(loaded.size(), 1u);
@@ -70,11 +58,11 @@ TEST_F(OptimizationProjectFileTest, EveryOptimisableRuleSwarmAndFrontComeBackByt
   TwoReservoirs system(pso);
   pso->getExecutionOptimization().configureAlgorithm(OptimizationAlgorithmType::pso);
 
-  const std::string first = saved({omopso, pso}, folder.file("first.sjson"));
+  const std::string first = projectfile::saved({omopso, pso}, folder.file("first.sjson"));
   auto& manager = ScenarioManager::getInstance();
   const auto loaded = JsonProjectLoader::load(folder.file("first.sjson"));
   ASSERT_EQ(loaded.size(), 2u);
-  EXPECT_EQ(saved(loaded, folder.file("second.sjson")), first);
+  EXPECT_EQ(projectfile::saved(loaded, folder.file("second.sjson")), first);
 
   const auto& again = dynamic_cast<RuleOptimizationScenario&>(*loaded[0]);
   EXPECT_EQ(again.getMatrixOfSolutions(), omopso->getMatrixOfSolutions());
@@ -126,7 +114,7 @@ TEST_F(OptimizationProjectFileTest, TheFlagsAndKeysOfTheRulesAreWrittenAsTheForm
   projectfile::TemporaryFolder folder;
   auto scenario = twoReservoirs(OptimizationAlgorithmType::smpso);
   addEveryOptimisableRule(*scenario);
-  const std::string text = saved({scenario}, folder.file("p.sjson"));
+  const std::string text = projectfile::saved({scenario}, folder.file("p.sjson"));
   for (const std::string& piece : {
            std::string(R"("ExecutionMethodType":"Otimização")"),
            std::string(R"("objectiveFunctions":[{"isMinimization":1,"name":")"),
@@ -153,7 +141,7 @@ TEST_F(OptimizationProjectFileTest, TheFlagsAndKeysOfTheRulesAreWrittenAsTheForm
 TEST_F(OptimizationProjectFileTest, ALoadedOptimisationFindsTheFrontOfTheOriginal) {
   projectfile::TemporaryFolder folder;
   auto original = twoReservoirs(OptimizationAlgorithmType::smpso);
-  saved({original}, folder.file("p.sjson"));
+  projectfile::saved({original}, folder.file("p.sjson"));
   auto loaded = loadedOptimisation(folder.file("p.sjson"));
   ASSERT_TRUE(loaded);
   projectfile::handOverSeries(*original, *loaded);
@@ -169,7 +157,7 @@ TEST_F(OptimizationProjectFileTest, ALoadedOptimisationFindsTheFrontOfTheOrigina
             original->getMatrixOfObjectiveFunctionsValues());
 
   // The front found goes through the file exactly.
-  saved({loaded}, folder.file("q.sjson"));
+  projectfile::saved({loaded}, folder.file("q.sjson"));
   const auto reloaded = loadedOptimisation(folder.file("q.sjson"));
   EXPECT_EQ(reloaded->getMatrixOfSolutions(), original->getMatrixOfSolutions());
   EXPECT_EQ(reloaded->getMatrixOfObjectiveFunctionsValues(),
@@ -181,7 +169,7 @@ TEST_F(OptimizationProjectFileTest, OneObjectiveFunctionLoadsAndItsCheckReportsI
   auto scenario = twoReservoirs(OptimizationAlgorithmType::pso);
   scenario->getExecutionOptimization().deleteObjectiveFunction(
       ObjectiveFunctionType::evaporationLoss);
-  saved({scenario}, folder.file("p.sjson"));
+  projectfile::saved({scenario}, folder.file("p.sjson"));
   auto loaded = loadedOptimisation(folder.file("p.sjson"));
   ASSERT_TRUE(loaded);
   projectfile::handOverSeries(*scenario, *loaded);
@@ -196,7 +184,7 @@ TEST_F(OptimizationProjectFileTest, AWrongOptimisationKeyIsOneLineNamingItsPlace
   auto scenario = twoReservoirs(OptimizationAlgorithmType::smpso);
   scenario->setOptimizationResults({{0.5, 0.5}}, {{1.0, 2.0}});
   addEveryOptimisableRule(*scenario);
-  const std::string text = saved({scenario}, folder.file("p.sjson"));
+  const std::string text = projectfile::saved({scenario}, folder.file("p.sjson"));
   using projectfile::replaced;
   const struct {
     std::string from, to, expected;

@@ -11,6 +11,7 @@
 #include "core/Reservoir.h"
 #include "core/Scenario.h"
 #include "project/JsonLoadElement.h"
+#include "project/JsonSaveBuilder.h"
 #include "project/JsonSaveElement.h"
 #include "scenario/ScenarioManager.h"
 #include "support/FileText.h"
@@ -26,6 +27,19 @@ class TemporaryFolder : public ::TemporaryFolder {
 
 using ::readFile;
 using ::writeFile;
+
+// The text of the project file of scenarios, in their order, written to path.
+inline std::string saved(const std::vector<std::shared_ptr<Scenario>>& scenarios,
+                         const std::string& path) {
+  auto& manager = ScenarioManager::getInstance();
+  manager.clear();
+  for (unsigned int index = 0; index < scenarios.size(); ++index) {
+    manager.addScenery(index, scenarios[index]);
+  }
+  EXPECT_TRUE(JsonSaveBuilder::save(path));
+  manager.clear();
+  return readFile(path);
+}
 
 // The hand-written project of tests/data/project.
 inline std::string goldenPath() {

@@ -1,61 +1,37 @@
 #include "vocabulary/AutomaticReportSerieTypeEnumFactory.h"
 
-#include <functional>
-#include <map>
-#include <stdexcept>
+#include "vocabulary/KindMakers.h"
 
 namespace {
 
 using T = SerieOperationType;
-using Maker = std::function<std::shared_ptr<AutomaticReportSerieTypeEnum>()>;
+using Makers = KindMakers<T, AutomaticReportSerieTypeEnum>;
 
-template <typename Kind>
-std::shared_ptr<AutomaticReportSerieTypeEnum> makeKind() {
-  return std::make_shared<Kind>();
-}
-
-const std::map<T, Maker>& makers() {
-  static const std::map<T, Maker> mapOfCallbacks = {
-      {T::min, makeKind<MinSerieOperationEnum>},
-      {T::max, makeKind<MaxSerieOperationEnum>},
-      {T::sum, makeKind<SumSerieOperationEnum>},
-      {T::average, makeKind<AverageSerieOperationEnum>},
-      {T::variancePopulation, makeKind<VariancePopulationSerieOperationEnum>},
-      {T::varianceSample, makeKind<VarianceSampleSerieOperationEnum>},
-      {T::stdDeviationPopulation, makeKind<StdDeviationPopulationSerieOperationEnum>},
-      {T::stdDeviationSample, makeKind<StdDeviationSampleSerieOperationEnum>},
-  };
-  return mapOfCallbacks;
-}
-
-const std::map<std::string, T>& byName() {
-  static const std::map<std::string, T> names = [] {
-    std::map<std::string, T> result;
-    for (const auto& entry : makers()) result.emplace(entry.second()->getName(), entry.first);
-    return result;
-  }();
-  return names;
+const Makers& makers() {
+  static const Makers table(
+      {
+          {T::min, Makers::makeKind<MinSerieOperationEnum>},
+          {T::max, Makers::makeKind<MaxSerieOperationEnum>},
+          {T::sum, Makers::makeKind<SumSerieOperationEnum>},
+          {T::average, Makers::makeKind<AverageSerieOperationEnum>},
+          {T::variancePopulation, Makers::makeKind<VariancePopulationSerieOperationEnum>},
+          {T::varianceSample, Makers::makeKind<VarianceSampleSerieOperationEnum>},
+          {T::stdDeviationPopulation, Makers::makeKind<StdDeviationPopulationSerieOperationEnum>},
+          {T::stdDeviationSample, Makers::makeKind<StdDeviationSampleSerieOperationEnum>},
+      },
+      "AutomaticReportSerieTypeEnumFactory::make(): invalid serieOperationType");
+  return table;
 }
 
 }  // namespace
 
 std::shared_ptr<AutomaticReportSerieTypeEnum> AutomaticReportSerieTypeEnumFactory::make(T type) {
-  auto it = makers().find(type);
-  if (it == makers().end()) {
-    throw std::invalid_argument(
-        "AutomaticReportSerieTypeEnumFactory::make(): invalid serieOperationType");
-  }
-  return it->second();
+  return makers().make(type);
 }
 
 std::shared_ptr<AutomaticReportSerieTypeEnum> AutomaticReportSerieTypeEnumFactory::findByName(
     const std::string& name) {
-  auto it = byName().find(name);
-  return it == byName().end() ? nullptr : make(it->second);
+  return makers().findByName(name);
 }
 
-std::vector<T> AutomaticReportSerieTypeEnumFactory::keys() {
-  std::vector<T> result;
-  for (const auto& entry : makers()) result.push_back(entry.first);
-  return result;
-}
+std::vector<T> AutomaticReportSerieTypeEnumFactory::keys() { return makers().keys(); }

@@ -27,6 +27,8 @@ class ReleaseRule {
   // Resolves the ids of other elements in scenario once it has been read or copied. Nothing to
   // resolve by default.
   virtual void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario);
+  // The elements other than its own reservoir that the rule reads, as resolved: none by default.
+  virtual std::vector<std::shared_ptr<Element>> getDependencies() const { return {}; }
   // A rule of the same type from ReleaseRuleFactory with this rule's interval, window and
   // zeroContribution; each rule adds its own fields. Other elements travel as ids only, to be
   // resolved by loadAfterScenarioInstantiated() in the scenario that holds the copy.

@@ -14,6 +14,7 @@
 
 class ExecutionMethod;
 class HydrologicalStateConfiguration;
+class Link;
 class OperationSystem;
 class SceneryCheck;
 
@@ -57,6 +58,26 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   // Runs the scenario; false when it was refused by its checks, cancelled or stopped by a loop.
   // Results of a refused run are left as they were; those of a cancelled run are dropped.
   virtual bool run(const Progress& progress);
+  // Runs the scenario piece by piece, one piece per isolated reservoir and one for the rest,
+  // handing the flows of the union links from piece to piece, and copies the pieces' results
+  // back; false when it was refused, a piece failed its check or the run was cancelled (the
+  // pieces already run keep their results). This kind of scenario has no such run: it is
+  // refused with status 0.
+  virtual bool runIsolated(const Progress& progress);
+  // The operation system of a piece of an isolated run whose flows are those of the isolated
+  // data of the scenario with id isolatedScenarioId. Throws std::logic_error for a kind of
+  // scenario that has none.
+  virtual std::shared_ptr<OperationSystem> getIsolatedOperationSystem(
+      unsigned int isolatedScenarioId);
+  // Takes copies of the results of the piece's elements, except the virtual ones (union
+  // junctions and the elements this scenario does not have).
+  void copyResultsFromIsolatedScenery(const std::shared_ptr<Scenario>& piece);
+  // Unmarks every isolated reservoir and union link.
+  void cleanIsolatedConfigurations();
+  // The links of the last split into isolated networks.
+  const std::vector<std::shared_ptr<Link>>& getUnionLinks() const { return unionLinks; }
+  void addUnionLink(const std::shared_ptr<Link>& link) { unionLinks.push_back(link); }
+  void clearUnionLinks() { unionLinks.clear(); }
   // A deep copy: elements, links, settings, rules and execution method.
   std::shared_ptr<Scenario> copy() const;
   // Lets every reservoir rule find the elements it depends on by id, after loading or copying.
@@ -65,7 +86,9 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   // scenario-wide data (ids, labels, pumping costs, layers, EPSG code), whatever target's kind.
   void copyNetworkInto(Scenario& target) const;
 
-  void preRun();
+  // Prepares the elements for a run: drains, storage tables, the rules' zeroContribution,
+  // bidirectional links.
+  virtual void preRun();
   void createResults();
   void clearResultSeries();
   virtual void clearAllResults();
@@ -157,6 +180,7 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   // before a run: by default their release rules.
   virtual void configureZeroContribution(const Elements& reservoirs);
   void setSceneryStatus(SceneryStatus status);
+  void setSceneryStatus(const Enum<SceneryStatus>& status) { sceneryStatus = status; }
 
  private:
   void insertElement(const std::shared_ptr<Element>& element, bool rename, unsigned int id);
@@ -178,4 +202,5 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   Enum<SceneryStatus> sceneryStatus;
   std::shared_ptr<OperationSystem> currentOperationSystem;
   std::vector<unsigned int> idsOfElementsInLoop;
+  std::vector<std::shared_ptr<Link>> unionLinks;
 };

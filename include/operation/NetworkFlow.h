@@ -77,6 +77,10 @@ class NetworkFlow {
   };
   using MapOfPriority = std::map<std::string, PriorityRecord>;
 
+  // How the name of a slack column is made: the column's name, separator, slack ("R1_s").
+  static constexpr const char* separator = "_";
+  static constexpr const char* slack = "s";
+
   class NetflowOptimalException : public std::exception {
    public:
     const char* what() const noexcept override { return "It did not found a valid solution"; }
@@ -130,6 +134,10 @@ class NetworkFlow {
  protected:
   // The value of a junction's row, to which terms may be added first; 0.0 here.
   virtual double getJunctionSubjectValue(const std::shared_ptr<Element>& junction, RowVectors& row);
+  KLPKRepresentation* getMutableProblem() { return problem; }
+  const Date& getDate() const { return date; }
+  // A flow of the date as a volume, hm³.
+  double hm3(double flow) const { return hydrologicalBalance->hm3(date, flow); }
 
  private:
   unsigned int priorityOf(const std::shared_ptr<Element>& element) const;
@@ -137,7 +145,6 @@ class NetworkFlow {
   // they lose do not change within a date, while every pass asks for them several times.
   const std::vector<VariableInfo>& upstreamOf(const std::shared_ptr<Element>& element);
   const std::vector<VariableInfo>& downstreamOf(const std::shared_ptr<Element>& element);
-  double hm3(double flow) const { return hydrologicalBalance->hm3(date, flow); }
   void addRow(int row, const RowVectors& terms);
 
   void initProblem();

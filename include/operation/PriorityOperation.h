@@ -42,6 +42,13 @@ class PriorityOperation : public OperationSystem {
   // The model of the last date, or null before the first.
   const std::shared_ptr<NetworkFlow>& getNetworkFlow() const { return networkFlow; }
 
+ protected:
+  // The model of the current date, before it takes over the solver of the last one.
+  virtual std::shared_ptr<NetworkFlow> makeNetworkFlow();
+  const std::shared_ptr<HydrologicalStateCalculator>& getHydrologicalStateCalculator() const {
+    return hydrologicalStateCalculator;
+  }
+
  private:
   std::shared_ptr<PrioritySettings> settingsOf(const std::shared_ptr<Element>& element) const;
   double priorityOf(const std::shared_ptr<Element>& element) const;

@@ -6,6 +6,7 @@
 #include "operation/OperationSystem.h"
 
 class RuleReleaseDefaultAllocation;
+class SceneryIsolatedData;
 
 // One period of a rule simulation: each reservoir releases what its rule asks, within what it
 // holds, and every node shares its water among its outgoing links by its allocation matrix.
@@ -27,6 +28,11 @@ class RuleOperation : public OperationSystem {
   void configureRuleReservoirs();
   // Each enabled demand's target for the date ("Demanda meta") is its input demand.
   void writeRuleSeries();
+
+ protected:
+  // The flow the node upstream of link sends into it, with the union flows of isolatedData (null
+  // outside a run by isolated networks), m³/s.
+  double releaseWith(const std::shared_ptr<Link>& link, const SceneryIsolatedData* isolatedData);
 
  private:
   RuleReleaseDefaultAllocation& allocatorOf(ElementType type);

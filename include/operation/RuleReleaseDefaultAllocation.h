@@ -9,6 +9,7 @@
 #include "core/Element.h"
 #include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
+#include "core/SceneryIsolatedData.h"
 #include "core/SettingsManager.h"
 #include "hydrology/HydrologicalBalance.h"
 
@@ -25,11 +26,12 @@ class RuleReleaseDefaultAllocation {
                                unsigned int windowIndex);
   virtual ~RuleReleaseDefaultAllocation() = default;
 
-  // The flow into link from node at the date, m³/s.
+  // The flow into link from node at the date, m³/s. isolatedData holds the flows of the union
+  // links in a run by isolated networks, and is null in any other run.
   virtual double getValue(const std::shared_ptr<Element>& node,
                           const std::shared_ptr<Element>& link,
                           const SettingsManager& settingsManager, bool zeroContribution,
-                          unsigned int isolatedScenarioId) = 0;
+                          const SceneryIsolatedData* isolatedData) = 0;
 
   // The link's share of total (m³/s) by the matrix, capped by the link's limit at the date.
   double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
@@ -73,7 +75,7 @@ class RuleReleaseReservoirAllocation : public RuleReleaseDefaultAllocation {
   using RuleReleaseDefaultAllocation::getValue;
   double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
                   const SettingsManager& settingsManager, bool zeroContribution,
-                  unsigned int isolatedScenarioId) override;
+                  const SceneryIsolatedData* isolatedData) override;
 
  private:
   // The flow the rule asks for, within what the lake holds above its minimum and maxRelease, m³/s.
@@ -86,10 +88,12 @@ class RuleReleaseJunctionAllocation : public RuleReleaseDefaultAllocation {
  public:
   using RuleReleaseDefaultAllocation::RuleReleaseDefaultAllocation;
   using RuleReleaseDefaultAllocation::getValue;
-  // Throws std::runtime_error for a union junction, which only isolated runs may share out.
+  // A union junction, which closes the network of another piece of an isolated run, sends the
+  // flow its one link carried in that piece. Throws std::runtime_error for a union junction
+  // outside an isolated run or with other than one outgoing link.
   double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
                   const SettingsManager& settingsManager, bool zeroContribution,
-                  unsigned int isolatedScenarioId) override;
+                  const SceneryIsolatedData* isolatedData) override;
 };
 
 // Shares what a demand receives from upstream (its own natural flow is not part of it).
@@ -99,7 +103,7 @@ class RuleReleaseDemandAllocation : public RuleReleaseDefaultAllocation {
   using RuleReleaseDefaultAllocation::getValue;
   double getValue(const std::shared_ptr<Element>& node, const std::shared_ptr<Element>& link,
                   const SettingsManager& settingsManager, bool zeroContribution,
-                  unsigned int isolatedScenarioId) override;
+                  const SceneryIsolatedData* isolatedData) override;
 };
 
 // Shares what a basin receives from upstream, as a demand does.

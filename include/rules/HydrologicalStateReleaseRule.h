@@ -22,6 +22,7 @@ class HydrologicalStateReleaseRule : public ReleaseRule {
   // Rebuilds the system from its ids: the reservoirs that scenario holds under them, and their
   // ids only.
   void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario) override;
+  std::vector<std::shared_ptr<Element>> getDependencies() const override { return reservoirs; }
   // ReleaseRule::copy(), the ids, the zones and the releases, but not the reservoirs themselves.
   [[nodiscard]] std::shared_ptr<ReleaseRule> copy() const override;
 

@@ -22,6 +22,7 @@ class MachineLearningRegressionColVolumesReleaseRule : public ReleaseRule {
   double getRelease(const Date& date) const override;
   // Finds the reservoirs of the ids in scenario, then trains the model on its entries.
   void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario) override;
+  std::vector<std::shared_ptr<Element>> getDependencies() const override { return reservoirs; }
   // ReleaseRule::copy(), the ids and a model of its own with the same settings and entries.
   [[nodiscard]] std::shared_ptr<ReleaseRule> copy() const override;
   // Trains the model on its entries.

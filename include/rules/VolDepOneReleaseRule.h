@@ -20,6 +20,7 @@ class VolDepOneReleaseRule : public ReleaseRule {
   // Looks the dependency up by its id in scenario; when the id names no reservoir there (it was
   // deleted), the dependency is dropped and the id set to 0.
   void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario) override;
+  std::vector<std::shared_ptr<Element>> getDependencies() const override;
   // ReleaseRule::copy(), the dependency's id and the table, but not the dependency itself.
   [[nodiscard]] std::shared_ptr<ReleaseRule> copy() const override;
 

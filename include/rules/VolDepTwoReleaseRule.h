@@ -19,6 +19,7 @@ class VolDepTwoReleaseRule : public ReleaseRule {
   // Looks each dependency up by its id in scenario; one whose id names no reservoir there is
   // dropped and its id set to 0.
   void loadAfterScenarioInstantiated(const std::shared_ptr<Scenario>& scenario) override;
+  std::vector<std::shared_ptr<Element>> getDependencies() const override;
   // ReleaseRule::copy(), the ids and the table, but not the dependencies themselves.
   [[nodiscard]] std::shared_ptr<ReleaseRule> copy() const override;
 

@@ -7,6 +7,7 @@
 #include "common/Date.h"
 #include "core/HydrologicalStateConfiguration.h"
 #include "core/Scenario.h"
+#include "operation/HydrologicalStateCalculator.h"
 #include "scenario/ConfigureRuleElementFromPriorityAddon.h"
 
 // An operation by priorities: at each date the network's water goes where a chain of linear
@@ -26,11 +27,16 @@ class PriorityScenario : public Scenario {
   // Completes a reservoir or demand that was attached without its pairs. Repeated calls for the
   // same element change nothing.
   void posAddElement(const std::shared_ptr<Element>& element, bool store) override;
-  // Under the type "Padrão" every enabled drain first asks for 99999.0 m³/s in every state and
-  // on every date, so that it takes all that is left. A date whose model has no optimal solution
+  // A date whose model has no optimal solution
   // ends the run like a refused one: false, results dropped, the network as it was stored, and
   // the date kept for getInfeasibleDate().
   bool run(const Progress& progress) override;
+  bool runIsolated(const Progress& progress) override;
+  std::shared_ptr<OperationSystem> getIsolatedOperationSystem(
+      unsigned int isolatedScenarioId) override;
+  // Scenario::preRun, and under the type "Padrão" every enabled drain asks for 99999.0 m³/s in
+  // every state.
+  void preRun() override;
 
   // Appends getNumOfStates() default pairs of priority and goal to the element's settings.
   void initPrioritySeriesOfElementSettings(const std::shared_ptr<Element>& element);
@@ -62,6 +68,7 @@ class PriorityScenario : public Scenario {
 
  private:
   void fillDrainsForStandardStates();
+  std::shared_ptr<HydrologicalStateCalculator> makeHydrologicalStateCalculator() const;
   void restoreNetwork();
 
   std::shared_ptr<HydrologicalStateConfiguration> hydrologicalStateConfiguration;

@@ -17,6 +17,9 @@ class RuleScenario : public Scenario {
   void addElement(const std::shared_ptr<Element>& element, bool rename, unsigned int id) override;
   void removeElement(unsigned int id) override;
   void posAddElement(const std::shared_ptr<Element>& element, bool rename) override;
+  bool runIsolated(const Progress& progress) override;
+  std::shared_ptr<OperationSystem> getIsolatedOperationSystem(
+      unsigned int isolatedScenarioId) override;
 
   // A node gets one line of zeros in its matrix; a link gets a column of zeros in its upstream
   // node's matrix. Repeated calls for the same element change nothing.

@@ -7,6 +7,7 @@
 
 #include "common/Interval.h"
 #include "core/Scenario.h"
+#include "core/SceneryIsolatedData.h"
 #include "scenario/ScenarioStore.h"
 
 namespace SQLite {
@@ -50,9 +51,9 @@ class ScenarioManager {
   // current one, or with a current one that is not held.
   unsigned int getIndexOfCurrentScen() const;
 
-  // Stores scenario under index; the only scenario becomes current.
+  // Stores scenario under index, with empty isolated data; the only scenario becomes current.
   void addScenery(unsigned int index, const std::shared_ptr<Scenario>& scenario);
-  // Removes the current scenario, renumbers those after it and makes a neighbour current; does
+  // Removes the current scenario and its isolated data, renumbers those after it and makes a neighbour current; does
   // nothing without scenarios. With fromDatabase its rows leave the open project database first
   // (DatabaseException on failure; std::logic_error "ScenarioManager::deleteCurrentScenery(): the
   // project database is not open" without one; nothing changes then).
@@ -65,6 +66,20 @@ class ScenarioManager {
   // "ScenarioManager::executeScenery: scenery's index is invalid" for an absent index, and as
   // updateSceneryResultsInDatabase.
   bool executeScenery(int index, const Progress& progress, const Progress& databaseProgress);
+  // As executeScenery, by isolated networks (Scenario::runIsolated).
+  bool executeIsolatedScenery(int index, const Progress& progress,
+                              const Progress& databaseProgress);
+
+  // The isolated data of the scenario with id: the pieces of its last run by isolated networks
+  // and their union flows. Throws std::invalid_argument
+  // "IsolatedNetworkManager::getSceneryIsolatedDataByID: invalid unionID" for an id without data.
+  SceneryIsolatedData& getSceneryIsolatedDataByID(unsigned int id);
+  // Empties the isolated data of the scenario with id and gives each of its union links a new
+  // flow series over its interval. Throws std::invalid_argument
+  // "IsolatedNetworkManager::initializeSceneryIsolatedData: invalid unionID" for an id without
+  // data or without a held scenario.
+  void initializeSceneryIsolatedData(unsigned int id);
+  void addSceneryIsolatedData(unsigned int id, const SceneryIsolatedData& data);
   // Writes the results of the enabled elements of scenario, every window, as one run (one time
   // stamp and hash) in one transaction, see DatabaseUpdate::updateOutputSerie. progress steps
   // once per series. Throws KOVACoreProgressBar::ProgressCancelException when progress answers
@@ -95,10 +110,13 @@ class ScenarioManager {
   static std::shared_ptr<ScenarioStore>& installedStore();
   // The installed store. Throws std::logic_error when none is.
   static ScenarioStore& store();
+  bool execute(int index, const Progress& databaseProgress,
+               const std::function<bool(Scenario&)>& run);
 
   unsigned int numberOfSceneries = 0;
   unsigned int countVirtualElementId = 0;
   unsigned int nextScenarioId = 1;
   std::map<unsigned int, std::shared_ptr<Scenario>> sceneries;
   std::shared_ptr<Scenario> currentScenario;
+  std::map<unsigned int, SceneryIsolatedData> sceneryIsolatedData;
 };

@@ -6,10 +6,12 @@
 #include "core/ElementsFilter.h"
 #include "core/ExecutionMethod.h"
 #include "core/IntervalWindowed.h"
+#include "core/Junction.h"
 #include "core/Link.h"
 #include "core/NetworkUtils.h"
 #include "core/Node.h"
 #include "core/ReleaseRule.h"
+#include "core/Reservoir.h"
 #include "core/ReservoirRuleSettings.h"
 #include "vocabulary/Vocabulary.h"
 
@@ -92,7 +94,38 @@ bool Scenario::run(const Progress& progress) {
   return true;
 }
 
+bool Scenario::runIsolated(const Progress&) {
+  setSceneryStatus(Enum<SceneryStatus>(
+      SceneryStatus::configurationError,
+      "Este tipo de cenário não pode ser executado no modo rede isolada!"));
+  return false;
+}
+
+std::shared_ptr<OperationSystem> Scenario::getIsolatedOperationSystem(unsigned int) {
+  throw std::logic_error(
+      "Scenario::getIsolatedOperationSystem(): this kind of scenario has no isolated run");
+}
+
+void Scenario::copyResultsFromIsolatedScenery(const std::shared_ptr<Scenario>& piece) {
+  for (const auto& element : piece->getElements()) {
+    const auto junction = std::dynamic_pointer_cast<Junction>(element);
+    if (junction && junction->getIsUnion()) continue;
+    if (auto own = ElementsFilter::getElement(elements, element->getId())) {
+      own->copyResultsSeriesFrom(element);
+    }
+  }
+}
+
+void Scenario::cleanIsolatedConfigurations() {
+  for (const auto& reservoir : ElementsFilter::filterByType(elements, ElementSets::reservoir())) {
+    std::static_pointer_cast<Reservoir>(reservoir)->getReservoirInfo().isolated = false;
+  }
+  for (const auto& link : ElementsFilter::filterByLinks(elements)) link->setIsUnion(false);
+  clearUnionLinks();
+}
+
 void Scenario::preRun() {
+  clearUnionLinks();
   ExecutionMethod::configureDrainDemands(
       ElementsFilter::filterByType(elements, {ElementType::drain}), interval);
   const Elements reservoirs = ElementsFilter::filterByType(elements, ElementSets::reservoir());

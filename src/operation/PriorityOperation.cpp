@@ -32,10 +32,14 @@ void PriorityOperation::postProcessing(const Callback& callback) {
 // The lp_solve model of the last date passes to the next one: dates of the same shape solve
 // without making a new one.
 void PriorityOperation::setNetworkFlow() {
-  auto next = std::make_shared<NetworkFlow>(getSettingsManager(), getDate(), getInterval(),
-                                            hydrologicalStateCalculator, getWindowIndex());
+  std::shared_ptr<NetworkFlow> next = makeNetworkFlow();
   if (networkFlow) next->adoptSolverModel(*networkFlow);
   networkFlow = next;
+}
+
+std::shared_ptr<NetworkFlow> PriorityOperation::makeNetworkFlow() {
+  return std::make_shared<NetworkFlow>(getSettingsManager(), getDate(), getInterval(),
+                                       hydrologicalStateCalculator, getWindowIndex());
 }
 
 void PriorityOperation::runModel() {

@@ -8,9 +8,14 @@
 #include "operation/RuleReleaseAllocationFactory.h"
 
 double RuleOperation::release(const std::shared_ptr<Link>& link) {
+  return releaseWith(link, nullptr);
+}
+
+double RuleOperation::releaseWith(const std::shared_ptr<Link>& link,
+                                  const SceneryIsolatedData* isolatedData) {
   const std::shared_ptr<Node> upstream = link->getUpstream();
   return allocatorOf(upstream->getType())
-      .getValue(upstream, link, getSettingsManager(), getZeroContribution(), 0);
+      .getValue(upstream, link, getSettingsManager(), getZeroContribution(), isolatedData);
 }
 
 RuleReleaseDefaultAllocation& RuleOperation::allocatorOf(ElementType type) {

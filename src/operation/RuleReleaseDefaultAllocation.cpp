@@ -89,13 +89,13 @@ double RuleReleaseDefaultAllocation::upstreamFlow(const std::shared_ptr<Element>
 double RuleReleaseReservoirAllocation::getValue(const std::shared_ptr<Element>& node,
                                                 const std::shared_ptr<Element>& link,
                                                 const SettingsManager& settingsManager,
-                                                bool zeroContribution, unsigned int) {
+                                                bool zeroContribution,
+                                                const SceneryIsolatedData*) {
   const auto reservoir = std::static_pointer_cast<Reservoir>(node);
   const auto settings =
       std::static_pointer_cast<ReservoirRuleSettings>(settingsManager.getSettings(node->getId()));
   const double wanted = wantedRelease(reservoir, *settings, zeroContribution);
   const auto out = std::static_pointer_cast<Link>(link);
-  if (out->getIsUnion()) return 0.0;
   const auto& backups = reservoir->getUpstreamBackupLinks();
   const bool invertedOut =
       out->getIsBidirectional() &&
@@ -132,11 +132,13 @@ double RuleReleaseReservoirAllocation::wantedRelease(const std::shared_ptr<Reser
 double RuleReleaseJunctionAllocation::getValue(const std::shared_ptr<Element>& node,
                                                const std::shared_ptr<Element>& link,
                                                const SettingsManager& settingsManager, bool,
-                                               unsigned int) {
-  if (std::static_pointer_cast<Junction>(node)->getIsUnion()) {
-    throw std::runtime_error(
-        "RuleReleaseJunctionAllocation::getValue(): a union junction is shared out only in "
-        "isolated runs");
+                                               const SceneryIsolatedData* isolatedData) {
+  const auto junction = std::static_pointer_cast<Junction>(node);
+  if (junction->getIsUnion()) {
+    if (!isolatedData || junction->getDownstreamLinks().size() != 1) {
+      throw std::runtime_error("RuleReleaseJunctionAllocation::getValue: invalid virtual junction");
+    }
+    return isolatedData->getUnionFlow(link->getId(), getDate());
   }
   return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
 }
@@ -144,6 +146,6 @@ double RuleReleaseJunctionAllocation::getValue(const std::shared_ptr<Element>& n
 double RuleReleaseDemandAllocation::getValue(const std::shared_ptr<Element>& node,
                                              const std::shared_ptr<Element>& link,
                                              const SettingsManager& settingsManager, bool,
-                                             unsigned int) {
+                                             const SceneryIsolatedData*) {
   return getValue(node, link, upstreamFlow(node), matrixOf(node, settingsManager));
 }

@@ -28,6 +28,11 @@ void VolDepOneReleaseRule::loadAfterScenarioInstantiated(
   if (!reservoirDependency) reservoirDependencyId = 0;
 }
 
+std::vector<std::shared_ptr<Element>> VolDepOneReleaseRule::getDependencies() const {
+  if (!reservoirDependency) return {};
+  return {reservoirDependency};
+}
+
 std::shared_ptr<ReleaseRule> VolDepOneReleaseRule::copy() const {
   auto rule = std::static_pointer_cast<VolDepOneReleaseRule>(ReleaseRule::copy());
   rule->reservoirDependencyId = reservoirDependencyId;

@@ -49,6 +49,14 @@ void VolDepTwoReleaseRule::loadAfterScenarioInstantiated(
   setReservoirDependency2(findReservoir(*scenario, reservoirDependencyId2));
 }
 
+std::vector<std::shared_ptr<Element>> VolDepTwoReleaseRule::getDependencies() const {
+  std::vector<std::shared_ptr<Element>> result;
+  for (const auto& reservoir : {reservoirDependency1, reservoirDependency2}) {
+    if (reservoir) result.push_back(reservoir);
+  }
+  return result;
+}
+
 std::shared_ptr<ReleaseRule> VolDepTwoReleaseRule::copy() const {
   auto rule = std::static_pointer_cast<VolDepTwoReleaseRule>(ReleaseRule::copy());
   rule->reservoirDependencyId1 = reservoirDependencyId1;

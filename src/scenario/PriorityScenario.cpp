@@ -9,7 +9,10 @@
 #include "core/PriorityReservoirSettings.h"
 #include "operation/BidirectionalLinkManager.h"
 #include "operation/NetworkFlow.h"
+#include "operation/IsolatedPriorityOperation.h"
 #include "operation/PriorityOperation.h"
+#include "scenario/IsolatedNetworkSceneryManager.h"
+#include "scenario/ScenarioManager.h"
 #include "vocabulary/Vocabulary.h"
 
 namespace {
@@ -70,12 +73,23 @@ void PriorityScenario::initPrioritySeriesOfElementSettings(
   }
 }
 
-bool PriorityScenario::run(const Progress& progress) {
-  infeasibleDate.reset();
+void PriorityScenario::preRun() {
+  Scenario::preRun();
   if (hydrologicalStateConfiguration->getCurrentHydrologicalStateType().getType() ==
       HydrologicalStateType::standard) {
     fillDrainsForStandardStates();
   }
+}
+
+bool PriorityScenario::runIsolated(const Progress& progress) {
+  if (getElements().empty()) return false;
+  infeasibleDate.reset();
+  setSceneryStatus(IsolatedNetworkSceneryManager::runIsolated(*this, progress));
+  return getSceneryStatus().getType() == SceneryStatus::success;
+}
+
+bool PriorityScenario::run(const Progress& progress) {
+  infeasibleDate.reset();
   try {
     return Scenario::run(progress);
   } catch (const NetworkFlow::NetflowOptimalException&) {
@@ -103,14 +117,29 @@ void PriorityScenario::restoreNetwork() {
   BidirectionalLinkManager::restoreInversionOnReservoirs(getElements());
 }
 
-std::shared_ptr<OperationSystem> PriorityScenario::getOperationSystem() {
+std::shared_ptr<HydrologicalStateCalculator> PriorityScenario::makeHydrologicalStateCalculator()
+    const {
   const Elements reservoirs = ElementsFilter::filterByEnabledElements(
       ElementsFilter::filterByType(getElements(), ElementSets::reservoir()));
-  const bool zeroContribution = getExecutionMethod()->getZeroContribution();
-  auto calculator = std::make_shared<HydrologicalStateCalculator>(
-      hydrologicalStateConfiguration, getSettingsManager(), reservoirs, zeroContribution);
+  return std::make_shared<HydrologicalStateCalculator>(hydrologicalStateConfiguration,
+                                                       getSettingsManager(), reservoirs,
+                                                       getExecutionMethod()->getZeroContribution());
+}
+
+std::shared_ptr<OperationSystem> PriorityScenario::getOperationSystem() {
   return std::make_shared<PriorityOperation>(getSettingsManager(), getElements(), getInterval(),
-                                             calculator, zeroContribution, getScenarioType());
+                                             makeHydrologicalStateCalculator(),
+                                             getExecutionMethod()->getZeroContribution(),
+                                             getScenarioType());
+}
+
+std::shared_ptr<OperationSystem> PriorityScenario::getIsolatedOperationSystem(
+    unsigned int isolatedScenarioId) {
+  return std::make_shared<IsolatedPriorityOperation>(
+      getSettingsManager(), getElements(), getInterval(), makeHydrologicalStateCalculator(),
+      getExecutionMethod()->getZeroContribution(),
+      getScenarioType(), isolatedScenarioId,
+      ScenarioManager::getInstance().getSceneryIsolatedDataByID(isolatedScenarioId));
 }
 
 std::shared_ptr<Scenario> PriorityScenario::copySpecific() const {

@@ -5,7 +5,10 @@
 #include "core/Link.h"
 #include "core/Node.h"
 #include "core/RuleSettings.h"
+#include "operation/IsolatedRuleOperation.h"
 #include "operation/RuleOperation.h"
+#include "scenario/IsolatedNetworkSceneryManager.h"
+#include "scenario/ScenarioManager.h"
 #include "vocabulary/Vocabulary.h"
 
 namespace {
@@ -72,6 +75,20 @@ std::shared_ptr<OperationSystem> RuleScenario::getOperationSystem() {
   return std::make_shared<RuleOperation>(getSettingsManager(), getElements(), getInterval(),
                                          getExecutionMethod()->getZeroContribution(),
                                          getScenarioType());
+}
+
+bool RuleScenario::runIsolated(const Progress& progress) {
+  if (getElements().empty()) return false;
+  setSceneryStatus(IsolatedNetworkSceneryManager::runIsolated(*this, progress));
+  return getSceneryStatus().getType() == SceneryStatus::success;
+}
+
+std::shared_ptr<OperationSystem> RuleScenario::getIsolatedOperationSystem(
+    unsigned int isolatedScenarioId) {
+  return std::make_shared<IsolatedRuleOperation>(
+      getSettingsManager(), getElements(), getInterval(),
+      getExecutionMethod()->getZeroContribution(), getScenarioType(), isolatedScenarioId,
+      ScenarioManager::getInstance().getSceneryIsolatedDataByID(isolatedScenarioId));
 }
 
 std::shared_ptr<Scenario> RuleScenario::copySpecific() const {

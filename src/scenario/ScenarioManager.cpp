@@ -55,6 +55,7 @@ unsigned int ScenarioManager::getIndexOfCurrentScen() const {
 
 void ScenarioManager::addScenery(unsigned int index, const std::shared_ptr<Scenario>& scenario) {
   sceneries[index] = scenario;
+  sceneryIsolatedData.emplace(scenario->getId(), SceneryIsolatedData());
   numberOfSceneries = static_cast<unsigned int>(sceneries.size());
   if (sceneries.size() == 1) currentScenario = scenario;
 }
@@ -63,6 +64,7 @@ void ScenarioManager::deleteCurrentScenery(bool fromDatabase) {
   if (sceneries.empty()) return;
   const unsigned int removed = getIndexOfCurrentScen();
   if (fromDatabase) store().deleteScenario(sceneries.at(removed)->getDatabaseId());
+  sceneryIsolatedData.erase(sceneries.at(removed)->getId());
   std::map<unsigned int, std::shared_ptr<Scenario>> renumbered;
   for (const auto& entry : sceneries) {
     if (entry.first < removed) renumbered.emplace(entry.first, entry.second);
@@ -80,6 +82,7 @@ void ScenarioManager::deleteCurrentScenery(bool fromDatabase) {
 
 void ScenarioManager::clear() {
   sceneries.clear();
+  sceneryIsolatedData.clear();
   currentScenario = nullptr;
   numberOfSceneries = 0;
   countVirtualElementId = 0;
@@ -88,15 +91,50 @@ void ScenarioManager::clear() {
 
 bool ScenarioManager::executeScenery(int index, const Progress& progress,
                                      const Progress& databaseProgress) {
+  return execute(index, databaseProgress,
+                 [&](Scenario& scenario) { return scenario.run(progress); });
+}
+
+bool ScenarioManager::executeIsolatedScenery(int index, const Progress& progress,
+                                             const Progress& databaseProgress) {
+  return execute(index, databaseProgress,
+                 [&](Scenario& scenario) { return scenario.runIsolated(progress); });
+}
+
+bool ScenarioManager::execute(int index, const Progress& databaseProgress,
+                              const std::function<bool(Scenario&)>& run) {
   auto it = index < 0 ? sceneries.end() : sceneries.find(static_cast<unsigned int>(index));
   if (it == sceneries.end()) {
     throw std::invalid_argument("ScenarioManager::executeScenery: scenery's index is invalid");
   }
-  const bool finished = it->second->run(progress);
+  const bool finished = run(*it->second);
   if (finished && databaseProgress) {
     updateSceneryResultsInDatabase(it->second, store().openDatabase(), databaseProgress);
   }
   return finished;
+}
+
+SceneryIsolatedData& ScenarioManager::getSceneryIsolatedDataByID(unsigned int id) {
+  auto it = sceneryIsolatedData.find(id);
+  if (it == sceneryIsolatedData.end()) {
+    throw std::invalid_argument(
+        "IsolatedNetworkManager::getSceneryIsolatedDataByID: invalid unionID");
+  }
+  return it->second;
+}
+
+void ScenarioManager::initializeSceneryIsolatedData(unsigned int id) {
+  auto it = sceneryIsolatedData.find(id);
+  const std::shared_ptr<Scenario> scenario = getSceneryById(id);
+  if (it == sceneryIsolatedData.end() || !scenario) {
+    throw std::invalid_argument(
+        "IsolatedNetworkManager::initializeSceneryIsolatedData: invalid unionID");
+  }
+  it->second.initialize(scenario->getUnionLinks(), scenario->getInterval());
+}
+
+void ScenarioManager::addSceneryIsolatedData(unsigned int id, const SceneryIsolatedData& data) {
+  sceneryIsolatedData[id] = data;
 }
 
 void ScenarioManager::updateSceneryResultsInDatabase(const std::shared_ptr<Scenario>& scenario,

@@ -1,0 +1,57 @@
+#include "core/SceneryIsolatedData.h"
+
+#include <stdexcept>
+
+#include "common/SerieFactory.h"
+#include "core/ElementsFilter.h"
+#include "vocabulary/Vocabulary.h"
+
+namespace {
+
+[[noreturn]] void invalidUnion() {
+  throw std::invalid_argument("SceneryIsolatedData::getSerieOfUnionLink: invalid unionID");
+}
+
+}  // namespace
+
+void SceneryIsolatedData::initialize(const std::vector<std::shared_ptr<Link>>& links,
+                                     const Interval& interval) {
+  pieces.clear();
+  unionFlows.clear();
+  for (const auto& link : links) {
+    addPairInMapOfUnionLinkIDToSerie(link->getId(),
+                                     SerieFactory::make(Vocabulary::of(SerieType::inflow),
+                                                        Vocabulary::of(Vocabulary::unitOf(SerieType::inflow)),
+                                                        interval));
+  }
+}
+
+void SceneryIsolatedData::addPairInMapOfUnionLinkIDToSerie(unsigned int linkId,
+                                                           const std::shared_ptr<Serie>& serie) {
+  unionFlows[linkId] = serie;
+}
+
+bool SceneryIsolatedData::thereIsASerieToThisUnionLinkID(unsigned int linkId) const {
+  return unionFlows.count(linkId) != 0;
+}
+
+const std::shared_ptr<Serie>& SceneryIsolatedData::getSerieOfUnionLinkID(unsigned int linkId) const {
+  auto it = unionFlows.find(linkId);
+  if (it == unionFlows.end()) invalidUnion();
+  return it->second;
+}
+
+double SceneryIsolatedData::getUnionFlow(unsigned int linkId, const Date& date) const {
+  const double flow = getSerieOfUnionLinkID(linkId)->getValue(date);
+  if (flow == Serie::kEmptyValue) invalidUnion();
+  return flow;
+}
+
+void SceneryIsolatedData::takeUnionFlows(const std::vector<std::shared_ptr<Element>>& elements,
+                                         const Date& date, unsigned int windowIndex) const {
+  for (const auto& link : ElementsFilter::filterByUnionLinks(elements)) {
+    if (!link->isEnabled()) continue;
+    const double flow = link->getOutputSerie(SerieType::inflow, windowIndex)->getValue(date);
+    getSerieOfUnionLinkID(link->getId())->setValue(date, flow);
+  }
+}

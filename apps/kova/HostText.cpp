@@ -425,6 +425,11 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "A guarantee curve, of a reservoir or of a system, prints its curve when it ends and\n"
         "stores it likewise; --seed N repeats its search, and the swarms of a system curve\n"
         "evaluate on --threads K with the same curve whatever K.\n"
+        "--isolated runs a rule or priority scenario piece by piece: one piece per reservoir\n"
+        "flagged isolated (its network: the reservoir, what lies upstream of it, and downstream\n"
+        "what only it feeds), upstream first, and one for the rest, each piece receiving the\n"
+        "flows of the union links from the pieces before it; a guarantee curve runs each trial\n"
+        "so. A refused piece prints its findings; a cancelled run stores nothing.\n"
         "Exit status: 0 all ran, 1 a scenario was refused or did not finish, 3 cancelled.\n",
         "Executa os cenários nomeados (todos quando nenhum é nomeado) um após o outro, mostrando\n"
         "a situação de cada um. Os resultados são gravados no banco de dados do projeto salvo com\n"
@@ -441,6 +446,12 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "Uma curva de garantia, de um reservatório ou de um sistema, mostra sua curva ao terminar\n"
         "e a grava da mesma forma; --seed N repete sua busca, e os enxames de uma curva do\n"
         "sistema avaliam em --threads K com a mesma curva qualquer que seja K.\n"
+        "--isolated executa um cenário de regras ou de prioridades por partes: uma parte por\n"
+        "reservatório marcado como isolado (sua rede: o reservatório, o que está a montante dele\n"
+        "e, a jusante, o que só ele alimenta), de montante para jusante, e uma para o restante,\n"
+        "cada parte recebendo as vazões dos trechos de união das partes anteriores; uma curva de\n"
+        "garantia executa assim cada tentativa. Uma parte recusada mostra suas pendências; uma\n"
+        "execução cancelada não grava nada.\n"
         "Código de saída: 0 todos executados, 1 um cenário foi recusado ou não terminou, 3\n"
         "cancelado.\n"}},
       {"front",

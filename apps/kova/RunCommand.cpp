@@ -20,10 +20,10 @@ Command RunCommand::describe() {
   return {"run",
           "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet] "
           "[--solver lpsolve|clp]\n"
-          "         [--seed N] [--threads K]",
+          "         [--seed N] [--threads K] [--isolated]",
           tr("run scenarios and store their results"),
           HostText::help("run"),
-          {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet"}, 1, 1},
+          {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet", "isolated"}, 1, 1},
           run};
 }
 
@@ -50,6 +50,15 @@ int RunCommand::run(const CommandLine& line, Console& console) {
   return status;
 }
 
+// The piece of an isolated run that stopped it, or the scenario itself when it stopped before its
+// first piece.
+const Scenario& RunCommand::lastPiece(const std::shared_ptr<Scenario>& scenario) {
+  const auto& pieces = ScenarioManager::getInstance()
+                           .getSceneryIsolatedDataByID(scenario->getId())
+                           .getVectorOfSceneryStructure();
+  return pieces.empty() ? *scenario : *pieces.back();
+}
+
 int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Scenario>& scenario,
                             const CommandLine& line, Console& console, ProgressReporter& progress) {
   OptimisationRun::prepare(*scenario, line, project);
@@ -57,10 +66,14 @@ int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Sc
   if (!line.has("no-save"))
     save = progress.callback(tr("saving") + " " + scenario->getName(),
                              ProgressReporter::Form::percentage);
+  const bool isolated = line.has("isolated");
   try {
-    ScenarioManager::getInstance().executeScenery(
-        project.indexOf(scenario),
-        progress.callback(scenario->getName(), ProgressReporter::Form::percentage), save);
+    ScenarioManager& manager = ScenarioManager::getInstance();
+    const auto execute = isolated ? &ScenarioManager::executeIsolatedScenery
+                                  : &ScenarioManager::executeScenery;
+    (manager.*execute)(project.indexOf(scenario),
+                       progress.callback(scenario->getName(), ProgressReporter::Form::percentage),
+                       save);
   } catch (const KOVACoreProgressBar::ProgressCancelException&) {
     progress.finish();
     console.out << scenario->getName() << ": " << tr("results not stored, saving was cancelled")
@@ -76,7 +89,7 @@ int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Sc
     case SceneryStatus::cancelled:
       return exitCancelled;
     default:
-      ScenarioFindings::printLast(*scenario, console.out);
+      ScenarioFindings::printLast(isolated ? lastPiece(scenario) : *scenario, console.out);
       return exitFindings;
   }
   OptimisationRun::finish(*scenario, line, project, console);

@@ -18,4 +18,5 @@ class RunCommand {
   // Runs one scenario; gives the exit status it calls for.
   static int runScenario(const OpenProject& project, const std::shared_ptr<Scenario>& scenario,
                          const CommandLine& line, Console& console, ProgressReporter& progress);
+  static const Scenario& lastPiece(const std::shared_ptr<Scenario>& scenario);
 };

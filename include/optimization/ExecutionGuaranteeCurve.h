@@ -65,10 +65,11 @@ class ExecutionGuaranteeCurve : public ExecutionMethod {
   const GuaranteeStr& getGuaranteeStr() const { return guaranteeStr; }
   void setGuaranteeStr(const GuaranteeStr& value) { guaranteeStr = value; }
   void clearGuaranteeStr() { guaranteeStr = GuaranteeStr(); }
-  // Trials on the reservoir alone come with the study of isolated networks. Throws
-  // std::invalid_argument "ExecutionGuaranteeCurve::setIsolated(): the isolated trial is not
-  // available yet" for true.
-  void setIsolated(bool value);
+  // Whether each trial runs the network by isolated networks: the current scenario of the
+  // ScenarioManager, turned into a rule scenario, runs piece by piece and hands the release of
+  // the reservoir under trial back.
+  void setIsolated(bool value) { isolated = value; }
+  bool isIsolated() const { return isolated; }
   // The whole simulations of the last run: a trial each.
   unsigned long getNumberOfSimulations() const { return simulations; }
   const std::vector<double>& getGuaranteeValues() const { return guaranteeValues; }
@@ -102,8 +103,13 @@ class ExecutionGuaranteeCurve : public ExecutionMethod {
   double search(const Element& reservoir, ConstReleaseRule& rule, double q, double target,
                 const KOVACoreProgressBar& bar);
   ReservoirStr trial(const Element& reservoir, const ConstReleaseRule& rule, double target) const;
-  // One whole simulation of the stored interval with the stored operation system.
-  void simulate();
+  // One whole simulation of the stored interval with the stored operation system, or by isolated
+  // networks for reservoir.
+  void simulate(const Element& reservoir);
+  // The isolated trial: runs the current scenario as a rule scenario by isolated networks and
+  // copies reservoir's "Vazão liberada" back. Throws std::runtime_error with the status text when
+  // that run is refused.
+  void runIsolated(const Element& reservoir);
   double draw();
   static std::uint32_t nextSeed();
 
@@ -117,6 +123,7 @@ class ExecutionGuaranteeCurve : public ExecutionMethod {
   GuaranteeStr guaranteeStr;
   std::map<unsigned int, std::string> reservoirFailMap;
   bool onlyQ90 = false;
+  bool isolated = false;
   unsigned long simulations = 0;
   std::map<unsigned int, std::shared_ptr<ReleaseRule>> backup;
   std::mt19937 generator;

@@ -19,10 +19,15 @@ class GuaranteeCurveScenario : public RuleScenario {
   Enum<ScenarioType> getScenarioType() const override;
   // Searches the curve over the scenario's network and clears the result series of the trials.
   bool run(const Progress& progress) override;
+  // As run, each trial by isolated networks; the scenario is the manager's current one meanwhile.
+  bool runIsolated(const Progress& progress) override;
 
   ExecutionGuaranteeCurve& getExecutionGuaranteeCurve() const;
 
  protected:
   std::shared_ptr<Scenario> copySpecific() const override;
   std::shared_ptr<SceneryCheck> makeSceneryCheck() override;
+
+ private:
+  bool searchCurve(const Progress& progress, bool isolated);
 };

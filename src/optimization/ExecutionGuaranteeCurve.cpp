@@ -13,7 +13,9 @@
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "operation/OperationSystem.h"
 #include "optimization/OptimizationUtils.h"
+#include "optimization/SceneryTransformationFactory.h"
 #include "rules/ConstReleaseRule.h"
+#include "scenario/ScenarioManager.h"
 
 namespace {
 
@@ -24,6 +26,28 @@ constexpr double kQ90 = 90.0;
 struct SeedState {
   bool seeded = false;
   std::uint64_t next = 0;
+};
+
+// Holds a scenario in the manager, current, for as long as it lives; the manager then has back
+// the scenarios and the current one it had.
+class TemporaryCurrentScenario {
+ public:
+  explicit TemporaryCurrentScenario(const std::shared_ptr<Scenario>& scenario)
+      : manager(ScenarioManager::getInstance()), previous(manager.getCurrentScenario()) {
+    const unsigned int index = manager.getNumberOfSceneries();
+    manager.addScenery(index, scenario);
+    manager.setCurrentScenario(index);
+  }
+  ~TemporaryCurrentScenario() {
+    manager.deleteCurrentScenery(false);
+    manager.setCurrentScenario(previous);
+  }
+  TemporaryCurrentScenario(const TemporaryCurrentScenario&) = delete;
+  TemporaryCurrentScenario& operator=(const TemporaryCurrentScenario&) = delete;
+
+ private:
+  ScenarioManager& manager;
+  std::shared_ptr<Scenario> previous;
 };
 
 SeedState& seedState() {
@@ -67,13 +91,6 @@ double ExecutionGuaranteeCurve::getQGuarantee(unsigned int reservoirId, double g
     }
   }
   return 0.0;
-}
-
-void ExecutionGuaranteeCurve::setIsolated(bool value) {
-  if (value) {
-    throw std::invalid_argument(
-        "ExecutionGuaranteeCurve::setIsolated(): the isolated trial is not available yet");
-  }
 }
 
 void ExecutionGuaranteeCurve::setGuaranteeValues(const std::vector<double>& values) {
@@ -214,7 +231,7 @@ double ExecutionGuaranteeCurve::search(const Element& reservoir, ConstReleaseRul
   double best = 0.0;
   for (std::uint32_t iteration = 0; iteration < numberOfIterations; ++iteration) {
     rule.setRelease(q);
-    simulate();
+    simulate(reservoir);
     const ReservoirStr entry = trial(reservoir, rule, target);
     if (entry.found && NumericalUtils::subtractDoubles(entry.q, best, kTolerance) > 0.0) {
       best = entry.q;
@@ -242,10 +259,36 @@ ExecutionGuaranteeCurve::ReservoirStr ExecutionGuaranteeCurve::trial(const Eleme
   return entry;
 }
 
-void ExecutionGuaranteeCurve::simulate() {
+void ExecutionGuaranteeCurve::simulate(const Element& reservoir) {
   ++simulations;
   restartContinuousResults(elements, interval, scenarioType.getType());
-  operationSystem->runInterval(interval);
+  if (isolated) {
+    runIsolated(reservoir);
+  } else {
+    operationSystem->runInterval(interval);
+  }
+}
+
+void ExecutionGuaranteeCurve::runIsolated(const Element& reservoir) {
+  ScenarioManager& manager = ScenarioManager::getInstance();
+  const std::shared_ptr<Scenario> current = manager.getCurrentScenario();
+  if (!current) {
+    throw std::logic_error("ExecutionGuaranteeCurve::runIsolated(): no current scenario");
+  }
+  const auto ruleScenario = SceneryTransformationFactory::make(
+                                static_cast<int>(ScenarioType::guaranteeCurve),
+                                static_cast<int>(ScenarioType::ruleSimulator))
+                                ->transform(*current, manager.getNextScenarioId());
+  {
+    TemporaryCurrentScenario held(ruleScenario);
+    if (!ruleScenario->runIsolated(nullptr)) {
+      throw std::runtime_error("ExecutionGuaranteeCurve::runIsolated(): " +
+                               ruleScenario->getSceneryStatus().getName());
+    }
+  }
+  reservoir.getOutputSerie(SerieType::releasedFlow, 0)
+      ->copyFrom(ruleScenario->getElement(reservoir.getId())
+                     ->getOutputSerie(SerieType::releasedFlow, 0));
 }
 
 std::shared_ptr<ExecutionMethod> ExecutionGuaranteeCurve::copySpecific() const {
@@ -255,5 +298,6 @@ std::shared_ptr<ExecutionMethod> ExecutionGuaranteeCurve::copySpecific() const {
   copy->guaranteeStr = guaranteeStr;
   copy->reservoirFailMap = reservoirFailMap;
   copy->onlyQ90 = onlyQ90;
+  copy->isolated = isolated;
   return copy;
 }

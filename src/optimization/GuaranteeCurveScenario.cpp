@@ -1,6 +1,7 @@
 #include "optimization/GuaranteeCurveScenario.h"
 
 #include "checks/SceneryCheck.h"
+#include "scenario/ScenarioManager.h"
 #include "vocabulary/Vocabulary.h"
 
 GuaranteeCurveScenario::GuaranteeCurveScenario(unsigned int id, const Interval& interval,
@@ -20,12 +21,29 @@ ExecutionGuaranteeCurve& GuaranteeCurveScenario::getExecutionGuaranteeCurve() co
   return static_cast<ExecutionGuaranteeCurve&>(*getExecutionMethod());
 }
 
-bool GuaranteeCurveScenario::run(const Progress& progress) {
+bool GuaranteeCurveScenario::run(const Progress& progress) { return searchCurve(progress, false); }
+
+bool GuaranteeCurveScenario::runIsolated(const Progress& progress) {
+  ScenarioManager& manager = ScenarioManager::getInstance();
+  const std::shared_ptr<Scenario> previous = manager.getCurrentScenario();
+  manager.setCurrentScenario(shared_from_this());
+  try {
+    const bool finished = searchCurve(progress, true);
+    manager.setCurrentScenario(previous);
+    return finished;
+  } catch (...) {
+    manager.setCurrentScenario(previous);
+    throw;
+  }
+}
+
+bool GuaranteeCurveScenario::searchCurve(const Progress& progress, bool isolated) {
   auto& execution = getExecutionGuaranteeCurve();
   execution.setElements(getElements());
   execution.setSettingsManager(&getSettingsManager());
-  execution.setIsolated(false);
+  execution.setIsolated(isolated);
   const bool finished = RuleScenario::run(progress);
+  execution.setIsolated(false);
   clearResultSeries();
   return finished;
 }

@@ -151,11 +151,12 @@ void IsolatedNetworkSceneryManager::createdVirtualElementsInIsolatedScenery(cons
 
 Enum<SceneryStatus> IsolatedNetworkSceneryManager::runIsolated(Scenario& scenario,
                                                                const Progress& progress) {
+  ScenarioManager& manager = ScenarioManager::getInstance();
+  manager.addSceneryIsolatedData(scenario.getId(), SceneryIsolatedData());
   if (scenario.hasBidirectionalLink()) return refused(kBidirectionalRefusal);
   const IsolatedNetworkChecks::Findings findings =
       IsolatedNetworkChecks::findArrangementErrors(scenario);
   if (!findings.empty()) return refused(findings.front());
-  ScenarioManager& manager = ScenarioManager::getInstance();
   const Pieces pieces = produceIsolatedSceneries(scenario);
   manager.initializeSceneryIsolatedData(scenario.getId());
   SceneryIsolatedData& data = manager.getSceneryIsolatedDataByID(scenario.getId());

@@ -49,16 +49,16 @@ void endAtVirtualDrain(Scenario& piece, const std::shared_ptr<Link>& link) {
   drain->addUpstream(link);
 }
 
-// Removes from piece every element that is neither a node of network nor a link touching one
-// that water crosses, links first so that they leave their nodes' lists. The plain removal of the
-// base class keeps the allocation matrices of the piece's nodes whole: their shares count every
-// column, those of disabled links too.
+// Removes from piece every element that is neither a node of network, nor a link touching one
+// that water crosses, nor virtual (at or above firstVirtualId), links first so that they leave
+// their nodes' lists. The plain removal of the base class keeps the allocation matrices of the
+// piece's nodes whole: their shares count every column, those of disabled links too.
 void removeOutside(Scenario& piece, const IsolatedNetworkSceneryManager::NodeIds& network,
-                   const Links& kept) {
+                   const Links& kept, unsigned int firstVirtualId) {
   std::set<unsigned int> keep(network);
   for (const auto& link : kept) keep.insert(link->getId());
   const auto outside = [&](const std::shared_ptr<Element>& element) {
-    return keep.count(element->getId()) == 0;
+    return element->getId() < firstVirtualId && keep.count(element->getId()) == 0;
   };
   for (const auto& link : ElementsFilter::filterByLinks(piece.getElements())) {
     if (outside(link)) piece.Scenario::removeElement(link->getId());
@@ -130,7 +130,7 @@ std::shared_ptr<Scenario> IsolatedNetworkSceneryManager::makePiece(const Scenari
   return piece;
 }
 
-void IsolatedNetworkSceneryManager::createdVirtualElementsInIsolatedScenery(const Scenario&,
+void IsolatedNetworkSceneryManager::createdVirtualElementsInIsolatedScenery(const Scenario& source,
                                                                            Scenario& piece,
                                                                            const NodeIds& network) {
   const Links links = ElementsFilter::filterByLinks(piece.getElements());
@@ -145,7 +145,7 @@ void IsolatedNetworkSceneryManager::createdVirtualElementsInIsolatedScenery(cons
   }
   for (const auto& link : entries) startAtUnionJunction(piece, link);
   for (const auto& link : exits) endAtVirtualDrain(piece, link);
-  removeOutside(piece, network, kept);
+  removeOutside(piece, network, kept, source.getMaxElementId());
   piece.resolveRuleReferences();
 }
 

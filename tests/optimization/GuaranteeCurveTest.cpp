@@ -7,10 +7,14 @@
 #include "checks/SceneryCheck.h"
 #include "common/NumericalUtils.h"
 #include "common/PeriodWalker.h"
+#include "core/IsolatedNetworkUtils.h"
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "optimization/GuaranteeCascade.h"
 #include "optimization/GuaranteeCurveScenario.h"
+#include "optimization/SceneryTransformationFactory.h"
 #include "rules/ConstReleaseRule.h"
+#include "rules/VolDepOneStaticReleaseRule.h"
+#include "scenario/ScenarioManager.h"
 #include "support/ExpectThrow.h"
 
 using namespace guaranteetest;
@@ -137,7 +141,7 @@ TEST(GuaranteeCurve, NoInflowFailsEveryLevelAndNamesTheReservoir) {
             (std::map<unsigned int, std::string>{{cascade.reservoirs[0]->getId(), "Seco"}}));
 }
 
-TEST(GuaranteeCurve, LevelsIterationsAndIsolationAreChecked) {
+TEST(GuaranteeCurve, LevelsAndIterationsAreChecked) {
   ExecutionGuaranteeCurve curve;
   EXPECT_EQ(curve.getGuaranteeValues().size(), 23u);
   EXPECT_THROW_TEXT(curve.setGuaranteeValues({50, 0}), std::invalid_argument,
@@ -147,8 +151,72 @@ TEST(GuaranteeCurve, LevelsIterationsAndIsolationAreChecked) {
   EXPECT_THROW_TEXT(curve.setNumberOfIterations(0), std::invalid_argument,
                     "ExecutionGuaranteeCurve::setNumberOfIterations(): the number of iterations "
                     "must be positive");
-  EXPECT_THROW_TEXT(curve.setIsolated(true), std::invalid_argument,
-                    "ExecutionGuaranteeCurve::setIsolated(): the isolated trial is not available "
-                    "yet");
   EXPECT_EQ(curve.getQGuarantee(1, 90.0), 0.0);
+}
+
+// Flagging both reservoirs of the cascade splits it at the river between them: each trial then
+// runs the upper reservoir's piece, hands its release to the lower one's through the union link,
+// and gives the same releases as the whole network, so the curve is the same draw for draw.
+TEST(GuaranteeCurve, TheIsolatedTrialGivesTheCurveOfTheWholeNetwork) {
+  Cascade cascade(kTwoYears, {kSeasons, kSeasons}, 40.0 * 30);
+  cascade.curve().setGuaranteeValues({50, 75, 90, 100});
+  cascade.curve().setNumberOfIterations(30);
+  for (const auto& reservoir : cascade.reservoirs) {
+    IsolatedNetworkUtils::setReservoirIsolated(*cascade.scenario, reservoir, true);
+  }
+  ASSERT_EQ(cascade.scenario->getUnionLinks().size(), 1u);
+  const auto whole = std::static_pointer_cast<GuaranteeCurveScenario>(cascade.scenario->copy());
+  ExecutionGuaranteeCurve::setSeed(5);
+  ASSERT_TRUE(runs(*whole));
+  ExecutionGuaranteeCurve::setSeed(5);
+  ASSERT_TRUE(cascade.scenario->runIsolated(nullptr));
+  const auto& curve = cascade.curve().getGuaranteeStr();
+  ASSERT_EQ(curve.guarantees.size(), 4u);
+  EXPECT_EQ(curve, whole->getExecutionGuaranteeCurve().getGuaranteeStr());
+  EXPECT_EQ(cascade.curve().getNumberOfSimulations(),
+            whole->getExecutionGuaranteeCurve().getNumberOfSimulations());
+  EXPECT_FALSE(cascade.curve().isIsolated());
+  // The trials' rule scenarios came and went: the manager is as it was.
+  EXPECT_EQ(ScenarioManager::getInstance().getNumberOfSceneries(), 0u);
+  EXPECT_EQ(ScenarioManager::getInstance().getCurrentScenario(), nullptr);
+}
+
+// The lowest reservoir, out of the curve, follows the volume of the first; flagging the lower two
+// puts them in networks of their own, apart from the first, which the trial's run refuses.
+TEST(GuaranteeCurve, AnIsolatedTrialThatIsRefusedEndsTheRunWithItsText) {
+  Cascade cascade(kTwoYears, {kSeasons, kSeasons, kSeasons}, 40.0 * 30);
+  cascade.curve().setGuaranteeValues({90});
+  const auto& lowest = cascade.reservoirs[2];
+  cascade.settings(lowest)->setIsGuaranteeCurve(false);
+  auto byFirst = std::make_shared<VolDepOneStaticReleaseRule>();
+  byFirst->setReservoirDependency(cascade.reservoirs[0]);
+  byFirst->setVectorOfVolDepOneReleaseStruct({{50, {3}}, {100, {6}}});
+  cascade.settings(lowest)->setRule(byFirst);
+  for (std::size_t i = 1; i < 3; ++i) {
+    IsolatedNetworkUtils::setReservoirIsolated(*cascade.scenario, cascade.reservoirs[i], true);
+  }
+  EXPECT_THROW_TEXT(cascade.scenario->runIsolated(nullptr), std::runtime_error,
+                    "ExecutionGuaranteeCurve::runIsolated(): A regra do reservatório \"" +
+                        lowest->getName() + "\" depende do reservatório \"" +
+                        cascade.reservoirs[0]->getName() + "\", que está em outra rede isolada.");
+  EXPECT_EQ(ScenarioManager::getInstance().getNumberOfSceneries(), 0u);
+  EXPECT_EQ(ScenarioManager::getInstance().getCurrentScenario(), nullptr);
+  // The user's rules come back whatever ended the run.
+  const auto first = cascade.settings(cascade.reservoirs[0])->getRule();
+  EXPECT_EQ(std::static_pointer_cast<ConstReleaseRule>(first)->getRelease(), 7.0);
+}
+
+TEST(SceneryTransformationFactory, OnlyTheGuaranteeCurveBecomesARuleScenarioSoFar) {
+  Cascade cascade(kTwoYears, {kSeasons}, 40.0 * 30);
+  cascade.scenario->getExecutionMethod()->setZeroContribution(true);
+  const auto rule = SceneryTransformationFactory::make(3, 1)->transform(*cascade.scenario, 42);
+  EXPECT_EQ(rule->getScenarioType().getType(), ScenarioType::ruleSimulator);
+  EXPECT_EQ(rule->getId(), 42u);
+  EXPECT_EQ(rule->getName(), "Curva");
+  EXPECT_TRUE(rule->getExecutionMethod()->getZeroContribution());
+  EXPECT_EQ(rule->getElements().size(), cascade.scenario->getElements().size());
+  EXPECT_TRUE(rule->run(nullptr));
+  EXPECT_FALSE(cascade.scenario->hasResults());
+  EXPECT_THROW_TEXT(SceneryTransformationFactory::make(1, 3), std::invalid_argument,
+                    "SceneryTransformationFactory::make(): no transformation from 1 to 3");
 }

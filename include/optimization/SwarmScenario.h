@@ -12,6 +12,12 @@
 class SwarmScenario : public RuleScenario {
  public:
   SwarmExecution& getSwarmExecution() const;
+  // A swarm of simulations has no run by isolated networks: refused with status 0.
+  bool runIsolated(const Progress& progress) override { return Scenario::runIsolated(progress); }
+  std::shared_ptr<OperationSystem> getIsolatedOperationSystem(
+      unsigned int isolatedScenarioId) override {
+    return Scenario::getIsolatedOperationSystem(isolatedScenarioId);
+  }
 
  protected:
   SwarmScenario(const std::shared_ptr<SwarmExecution>& method, unsigned int id,

@@ -17,14 +17,15 @@
 #include "scenario/ScenarioManager.h"
 
 Command RunCommand::describe() {
-  return {"run",
-          "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet] "
-          "[--solver lpsolve|clp]\n"
-          "         [--seed N] [--threads K] [--isolated]",
-          tr("run scenarios and store their results"),
-          HostText::help("run"),
-          {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet", "isolated"}, 1, 1},
-          run};
+  return {
+      "run",
+      "kova run P.sjson [--scenario NAME]... [--csv DIR] [--no-save] [--quiet] "
+      "[--solver lpsolve|clp]\n"
+      "         [--seed N] [--threads K] [--isolated]",
+      tr("run scenarios and store their results"),
+      HostText::help("run"),
+      {{"csv", "solver", "seed", "threads"}, {"scenario"}, {"no-save", "quiet", "isolated"}, 1, 1},
+      run};
 }
 
 int RunCommand::run(const CommandLine& line, Console& console) {
@@ -69,8 +70,8 @@ int RunCommand::runScenario(const OpenProject& project, const std::shared_ptr<Sc
   const bool isolated = line.has("isolated");
   try {
     ScenarioManager& manager = ScenarioManager::getInstance();
-    const auto execute = isolated ? &ScenarioManager::executeIsolatedScenery
-                                  : &ScenarioManager::executeScenery;
+    const auto execute =
+        isolated ? &ScenarioManager::executeIsolatedScenery : &ScenarioManager::executeScenery;
     (manager.*execute)(project.indexOf(scenario),
                        progress.callback(scenario->getName(), ProgressReporter::Form::percentage),
                        save);

@@ -34,7 +34,8 @@ class IsolatedNetworkStreamsManager {
                                                                   const Elements& elements,
                                                                   const NodeIds& taken);
   // The first isolated reservoir met going upstream from node (node itself included), or null.
-  static std::shared_ptr<Node> getUpstreamIsolatedReservoirToNode(const std::shared_ptr<Node>& node);
+  static std::shared_ptr<Node> getUpstreamIsolatedReservoirToNode(
+      const std::shared_ptr<Node>& node);
   // An enabled node that is not an isolated reservoir and that no other network holds.
   static bool canAddNode(const std::shared_ptr<Node>& node, const NodeIds& taken);
   // An enabled link between two enabled nodes: the links that water crosses.

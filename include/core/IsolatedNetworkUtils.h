@@ -15,15 +15,12 @@ class IsolatedNetworkUtils {
   // The enabled reservoirs flagged isolated, upstream first.
   static std::vector<std::shared_ptr<Element>> getStackOfReservoirsWithIsolatedFlagTrue(
       const Scenario& scenario);
-  // Marks again the union links of scenario after the flag of reservoir changed: the links that
-  // cross the border of an isolated network, and only those.
-  static void updateIsolatedFlagInReservoir(Scenario& scenario,
-                                            const std::shared_ptr<Element>& reservoir);
   // Flags reservoir isolated (or not) and marks the union links again. Throws
   // std::invalid_argument "IsolatedNetworkUtils::setReservoirIsolated(): the element is not a
   // reservoir of the scenario" otherwise.
   static void setReservoirIsolated(Scenario& scenario, const std::shared_ptr<Element>& reservoir,
                                    bool flag);
-  // Marks the union links of the present flags and lists them in the scenario.
+  // Marks the union links of the present flags, the links that cross the border of an isolated
+  // network and only those, and lists them in the scenario.
   static void markUnionLinks(Scenario& scenario);
 };

@@ -9,15 +9,16 @@
 // weighs -10,000,000 in the objective.
 class IsolatedNetworkFlow : public NetworkFlow {
  public:
-  IsolatedNetworkFlow(const SettingsManager& settingsManager, const Date& date,
-                      const Interval& interval,
-                      const std::shared_ptr<HydrologicalStateCalculator>& hydrologicalStateCalculator,
-                      unsigned int windowIndex, const SceneryIsolatedData& isolatedData);
+  IsolatedNetworkFlow(
+      const SettingsManager& settingsManager, const Date& date, const Interval& interval,
+      const std::shared_ptr<HydrologicalStateCalculator>& hydrologicalStateCalculator,
+      unsigned int windowIndex, const SceneryIsolatedData& isolatedData);
 
  protected:
   // Throws std::runtime_error "IsolatedNetworkFlow::getJunctionSubjectValue: invalid virtual
   // junction" for a union junction without exactly one outgoing link.
-  double getJunctionSubjectValue(const std::shared_ptr<Element>& junction, RowVectors& row) override;
+  double getJunctionSubjectValue(const std::shared_ptr<Element>& junction,
+                                 RowVectors& row) override;
 
  private:
   SceneryIsolatedData isolatedData;

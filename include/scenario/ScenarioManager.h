@@ -53,10 +53,11 @@ class ScenarioManager {
 
   // Stores scenario under index, with empty isolated data; the only scenario becomes current.
   void addScenery(unsigned int index, const std::shared_ptr<Scenario>& scenario);
-  // Removes the current scenario and its isolated data, renumbers those after it and makes a neighbour current; does
-  // nothing without scenarios. With fromDatabase its rows leave the open project database first
-  // (DatabaseException on failure; std::logic_error "ScenarioManager::deleteCurrentScenery(): the
-  // project database is not open" without one; nothing changes then).
+  // Removes the current scenario and its isolated data, renumbers those after it and makes a
+  // neighbour current; does nothing without scenarios. With fromDatabase its rows leave the open
+  // project database first (DatabaseException on failure; std::logic_error
+  // "ScenarioManager::deleteCurrentScenery(): the project database is not open" without one;
+  // nothing changes then).
   void deleteCurrentScenery(bool fromDatabase);
   // Forgets every scenario and restarts the counters.
   void clear();

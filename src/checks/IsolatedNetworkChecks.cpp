@@ -36,7 +36,8 @@ std::map<unsigned int, std::size_t> networkOfEachNode(const Scenario& scenario) 
 IsolatedNetworkChecks::Findings IsolatedNetworkChecks::findArrangementErrors(
     const Scenario& scenario) {
   Findings findings = checkExecutionMethod(scenario);
-  for (const auto& reservoir : IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(scenario)) {
+  for (const auto& reservoir :
+       IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(scenario)) {
     append(findings, checkInsertionOfNewIsolatedReservoir(reservoir));
   }
   append(findings, checkRuleDependenciesInsideIsolatedNetworks(scenario));
@@ -46,7 +47,8 @@ IsolatedNetworkChecks::Findings IsolatedNetworkChecks::findArrangementErrors(
 bool IsolatedNetworkChecks::checkNetworkArrangementAndIsolate(Scenario& scenario,
                                                               Findings& failures) {
   bool fine = true;
-  for (const auto& reservoir : IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(scenario)) {
+  for (const auto& reservoir :
+       IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(scenario)) {
     const Findings findings = checkInsertionOfNewIsolatedReservoir(reservoir);
     if (findings.empty()) continue;
     append(failures, findings);
@@ -73,7 +75,8 @@ bool IsolatedNetworkChecks::checkExistenceOfIsolatedReservoirInScenery(const Sce
   return !IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(scenario).empty();
 }
 
-bool IsolatedNetworkChecks::checkDownstreamPathExistence(const std::shared_ptr<Element>& reservoir) {
+bool IsolatedNetworkChecks::checkDownstreamPathExistence(
+    const std::shared_ptr<Element>& reservoir) {
   const auto& links = std::static_pointer_cast<Node>(reservoir)->getDownstreamLinks();
   return std::any_of(links.begin(), links.end(), [](const std::shared_ptr<Link>& link) {
     return IsolatedNetworkStreamsManager::canAddLink(link);
@@ -84,7 +87,8 @@ IsolatedNetworkChecks::Findings IsolatedNetworkChecks::checkRuleDependenciesInsi
     const Scenario& scenario) {
   Findings findings;
   const auto networkOf = networkOfEachNode(scenario);
-  for (const auto& reservoir : ElementsFilter::filterByType(scenario.getElements(), ElementSets::reservoir())) {
+  for (const auto& reservoir :
+       ElementsFilter::filterByType(scenario.getElements(), ElementSets::reservoir())) {
     const auto own = networkOf.find(reservoir->getId());
     if (own == networkOf.end()) continue;
     const auto settings = std::dynamic_pointer_cast<ReservoirRuleSettings>(

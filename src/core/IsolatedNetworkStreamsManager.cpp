@@ -17,7 +17,8 @@ std::shared_ptr<Node> sourceOf(const std::shared_ptr<Link>& link) {
   return node;
 }
 
-bool fedOnlyBy(const std::shared_ptr<Node>& node, const IsolatedNetworkStreamsManager::NodeIds& network) {
+bool fedOnlyBy(const std::shared_ptr<Node>& node,
+               const IsolatedNetworkStreamsManager::NodeIds& network) {
   const auto& upstream = node->getUpstreamLinks();
   return std::all_of(upstream.begin(), upstream.end(), [&](const std::shared_ptr<Link>& link) {
     return !IsolatedNetworkStreamsManager::canAddLink(link) ||

@@ -21,7 +21,8 @@ IsolatedNetworkUnionLinkManager::Links crossing(const std::set<unsigned int>& ne
 
 }  // namespace
 
-IsolatedNetworkUnionLinkManager::Links IsolatedNetworkUnionLinkManager::getIsolatedNetworkEntryPoints(
+IsolatedNetworkUnionLinkManager::Links
+IsolatedNetworkUnionLinkManager::getIsolatedNetworkEntryPoints(
     const std::set<unsigned int>& network, const Links& links) {
   return crossing(network, links, true);
 }

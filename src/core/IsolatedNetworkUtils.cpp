@@ -13,18 +13,13 @@ bool IsolatedNetworkUtils::isIsolatedElement(const std::shared_ptr<Element>& nod
   return IsolatedNetworkStreamsManager::isIsolatedReservoir(node);
 }
 
-std::vector<std::shared_ptr<Element>> IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(
-    const Scenario& scenario) {
+std::vector<std::shared_ptr<Element>>
+IsolatedNetworkUtils::getStackOfReservoirsWithIsolatedFlagTrue(const Scenario& scenario) {
   std::vector<std::shared_ptr<Element>> result;
   for (const auto& node : NetworkUtils::levelOrderLegacy(scenario.getElements())) {
     if (isIsolatedElement(node)) result.push_back(node);
   }
   return result;
-}
-
-void IsolatedNetworkUtils::updateIsolatedFlagInReservoir(Scenario& scenario,
-                                                         const std::shared_ptr<Element>&) {
-  markUnionLinks(scenario);
 }
 
 void IsolatedNetworkUtils::setReservoirIsolated(Scenario& scenario,
@@ -38,7 +33,7 @@ void IsolatedNetworkUtils::setReservoirIsolated(Scenario& scenario,
         "scenario");
   }
   own->getReservoirInfo().isolated = flag;
-  updateIsolatedFlagInReservoir(scenario, own);
+  markUnionLinks(scenario);
 }
 
 void IsolatedNetworkUtils::markUnionLinks(Scenario& scenario) {
@@ -47,7 +42,8 @@ void IsolatedNetworkUtils::markUnionLinks(Scenario& scenario) {
   scenario.clearUnionLinks();
   const auto split = IsolatedNetworkStreamsManager::splitNetwork(scenario.getElements());
   for (const auto& network : split) {
-    for (const auto& link : IsolatedNetworkUnionLinkManager::getIsolatedNetworkOutPoints(network, links)) {
+    for (const auto& link :
+         IsolatedNetworkUnionLinkManager::getIsolatedNetworkOutPoints(network, links)) {
       link->setIsUnion(true);
       scenario.addUnionLink(link);
     }

@@ -95,9 +95,9 @@ bool Scenario::run(const Progress& progress) {
 }
 
 bool Scenario::runIsolated(const Progress&) {
-  setSceneryStatus(Enum<SceneryStatus>(
-      SceneryStatus::configurationError,
-      "Este tipo de cenário não pode ser executado no modo rede isolada!"));
+  setSceneryStatus(
+      Enum<SceneryStatus>(SceneryStatus::configurationError,
+                          "Este tipo de cenário não pode ser executado no modo rede isolada!"));
   return false;
 }
 

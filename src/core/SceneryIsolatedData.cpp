@@ -19,10 +19,10 @@ void SceneryIsolatedData::initialize(const std::vector<std::shared_ptr<Link>>& l
   pieces.clear();
   unionFlows.clear();
   for (const auto& link : links) {
-    addPairInMapOfUnionLinkIDToSerie(link->getId(),
-                                     SerieFactory::make(Vocabulary::of(SerieType::inflow),
-                                                        Vocabulary::of(Vocabulary::unitOf(SerieType::inflow)),
-                                                        interval));
+    addPairInMapOfUnionLinkIDToSerie(
+        link->getId(),
+        SerieFactory::make(Vocabulary::of(SerieType::inflow),
+                           Vocabulary::of(Vocabulary::unitOf(SerieType::inflow)), interval));
   }
 }
 
@@ -35,7 +35,8 @@ bool SceneryIsolatedData::thereIsASerieToThisUnionLinkID(unsigned int linkId) co
   return unionFlows.count(linkId) != 0;
 }
 
-const std::shared_ptr<Serie>& SceneryIsolatedData::getSerieOfUnionLinkID(unsigned int linkId) const {
+const std::shared_ptr<Serie>& SceneryIsolatedData::getSerieOfUnionLinkID(
+    unsigned int linkId) const {
   auto it = unionFlows.find(linkId);
   if (it == unionFlows.end()) invalidUnion();
   return it->second;

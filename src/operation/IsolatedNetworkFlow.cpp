@@ -23,11 +23,12 @@ double IsolatedNetworkFlow::getJunctionSubjectValue(const std::shared_ptr<Elemen
   if (!junction->getIsUnion()) return NetworkFlow::getJunctionSubjectValue(element, row);
   const auto& links = junction->getDownstreamLinks();
   if (links.size() != 1) {
-    throw std::runtime_error("IsolatedNetworkFlow::getJunctionSubjectValue: invalid virtual junction");
+    throw std::runtime_error(
+        "IsolatedNetworkFlow::getJunctionSubjectValue: invalid virtual junction");
   }
   KLPKRepresentation* problem = getMutableProblem();
-  const int slackColumn = KLPKUtils::lowColValue(
-      problem, KLPKUtils::oneVar(element) + separator + slack, 0.0);
+  const int slackColumn =
+      KLPKUtils::lowColValue(problem, KLPKUtils::oneVar(element) + separator + slack, 0.0);
   KLPKUtils::slp_set_obj_coef(problem, slackColumn, kUnionSlackWeight);
   row.add(slackColumn, 1.0);
   return hm3(isolatedData.getUnionFlow(links.front()->getId(), getDate()));

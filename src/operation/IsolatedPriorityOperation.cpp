@@ -5,8 +5,8 @@
 IsolatedPriorityOperation::IsolatedPriorityOperation(
     const SettingsManager& settingsManager, const Elements& elements, const Interval& interval,
     const std::shared_ptr<HydrologicalStateCalculator>& hydrologicalStateCalculator,
-    bool zeroContribution, const Enum<ScenarioType>& scenarioType,
-    unsigned int isolatedScenarioId, const SceneryIsolatedData& isolatedData)
+    bool zeroContribution, const Enum<ScenarioType>& scenarioType, unsigned int isolatedScenarioId,
+    const SceneryIsolatedData& isolatedData)
     : PriorityOperation(settingsManager, elements, interval, hydrologicalStateCalculator,
                         zeroContribution, scenarioType),
       isolatedScenarioId(isolatedScenarioId),

@@ -89,8 +89,7 @@ double RuleReleaseDefaultAllocation::upstreamFlow(const std::shared_ptr<Element>
 double RuleReleaseReservoirAllocation::getValue(const std::shared_ptr<Element>& node,
                                                 const std::shared_ptr<Element>& link,
                                                 const SettingsManager& settingsManager,
-                                                bool zeroContribution,
-                                                const SceneryIsolatedData*) {
+                                                bool zeroContribution, const SceneryIsolatedData*) {
   const auto reservoir = std::static_pointer_cast<Reservoir>(node);
   const auto settings =
       std::static_pointer_cast<ReservoirRuleSettings>(settingsManager.getSettings(node->getId()));

@@ -275,10 +275,10 @@ void ExecutionGuaranteeCurve::runIsolated(const Element& reservoir) {
   if (!current) {
     throw std::logic_error("ExecutionGuaranteeCurve::runIsolated(): no current scenario");
   }
-  const auto ruleScenario = SceneryTransformationFactory::make(
-                                static_cast<int>(ScenarioType::guaranteeCurve),
-                                static_cast<int>(ScenarioType::ruleSimulator))
-                                ->transform(*current, manager.getNextScenarioId());
+  const auto ruleScenario =
+      SceneryTransformationFactory::make(static_cast<int>(ScenarioType::guaranteeCurve),
+                                         static_cast<int>(ScenarioType::ruleSimulator))
+          ->transform(*current, manager.getNextScenarioId());
   {
     TemporaryCurrentScenario held(ruleScenario);
     if (!ruleScenario->runIsolated(nullptr)) {
@@ -287,8 +287,8 @@ void ExecutionGuaranteeCurve::runIsolated(const Element& reservoir) {
     }
   }
   reservoir.getOutputSerie(SerieType::releasedFlow, 0)
-      ->copyFrom(ruleScenario->getElement(reservoir.getId())
-                     ->getOutputSerie(SerieType::releasedFlow, 0));
+      ->copyFrom(
+          ruleScenario->getElement(reservoir.getId())->getOutputSerie(SerieType::releasedFlow, 0));
 }
 
 std::shared_ptr<ExecutionMethod> ExecutionGuaranteeCurve::copySpecific() const {

@@ -68,18 +68,27 @@ void removeOutside(Scenario& piece, const IsolatedNetworkSceneryManager::NodeIds
   }
 }
 
+std::string pieceName(const Scenario& scenario, const std::shared_ptr<Element>& reservoir) {
+  return scenario.getName() + " - " + reservoir->getName();
+}
+
+std::string generalName(const Scenario& scenario) { return scenario.getName() + "-general"; }
+
 }  // namespace
 
 IsolatedNetworkSceneryManager::Pieces IsolatedNetworkSceneryManager::produceIsolatedSceneries(
     Scenario& scenario) {
   IsolatedNetworkUtils::markUnionLinks(scenario);
   ScenarioManager::getInstance().setCountVirtualElementId(scenario.getMaxElementId());
+  // The split takes the isolated reservoirs in the order of the roots, the general network last.
+  const auto split = IsolatedNetworkStreamsManager::splitNetwork(scenario.getElements());
+  const auto roots = getVectorOfIsolatedNetworkRootReservoirs(scenario);
   Pieces pieces;
-  for (const auto& reservoir : getVectorOfIsolatedNetworkRootReservoirs(scenario)) {
-    pieces.push_back(getSceneryFromIsolatedNetwork(scenario, reservoir));
+  for (std::size_t i = 0; i < roots.size(); ++i) {
+    pieces.push_back(makePiece(scenario, split[i], pieceName(scenario, roots[i])));
   }
-  if (!getIsolatedNetworkGeneralElements(scenario).empty()) {
-    pieces.push_back(getSceneryFromGeneralNetwork(scenario));
+  if (!split.back().empty()) {
+    pieces.push_back(makePiece(scenario, split.back(), generalName(scenario)));
   }
   return pieces;
 }
@@ -91,13 +100,12 @@ std::shared_ptr<Scenario> IsolatedNetworkSceneryManager::getSceneryFromIsolatedN
         "IsolatedNetworkManager::getSceneryFromIsolatedNetwork: Reservoir is not isolated");
   }
   return makePiece(scenario, getElementsThatBelongToIsolatedNetwork(scenario, reservoir),
-                   scenario.getName() + " - " + reservoir->getName());
+                   pieceName(scenario, reservoir));
 }
 
 std::shared_ptr<Scenario> IsolatedNetworkSceneryManager::getSceneryFromGeneralNetwork(
     const Scenario& scenario) {
-  return makePiece(scenario, getIsolatedNetworkGeneralElements(scenario),
-                   scenario.getName() + "-general");
+  return makePiece(scenario, getIsolatedNetworkGeneralElements(scenario), generalName(scenario));
 }
 
 std::vector<std::shared_ptr<Element>>
@@ -130,16 +138,17 @@ std::shared_ptr<Scenario> IsolatedNetworkSceneryManager::makePiece(const Scenari
   return piece;
 }
 
-void IsolatedNetworkSceneryManager::createdVirtualElementsInIsolatedScenery(const Scenario& source,
-                                                                           Scenario& piece,
-                                                                           const NodeIds& network) {
+void IsolatedNetworkSceneryManager::createdVirtualElementsInIsolatedScenery(
+    const Scenario& source, Scenario& piece, const NodeIds& network) {
   const Links links = ElementsFilter::filterByLinks(piece.getElements());
-  const Links entries = IsolatedNetworkUnionLinkManager::getIsolatedNetworkEntryPoints(network, links);
+  const Links entries =
+      IsolatedNetworkUnionLinkManager::getIsolatedNetworkEntryPoints(network, links);
   const Links exits = IsolatedNetworkUnionLinkManager::getIsolatedNetworkOutPoints(network, links);
   Links kept;
   for (const auto& link : links) {
     if (!IsolatedNetworkStreamsManager::canAddLink(link)) continue;
-    if (network.count(link->getUpstream()->getId()) || network.count(link->getDownstream()->getId())) {
+    if (network.count(link->getUpstream()->getId()) ||
+        network.count(link->getDownstream()->getId())) {
       kept.push_back(link);
     }
   }
@@ -169,7 +178,8 @@ Enum<SceneryStatus> IsolatedNetworkSceneryManager::runIsolated(Scenario& scenari
       data.addSceneryStructure(piece);
       return Vocabulary::of(SceneryStatus::configurationError);
     }
-    ExecutionMethod::configureLinkAddonPumping(ElementsFilter::filterByEnabledLinks(piece->getElements()));
+    ExecutionMethod::configureLinkAddonPumping(
+        ElementsFilter::filterByEnabledLinks(piece->getElements()));
     piece->createResults();
     const auto operation = piece->getIsolatedOperationSystem(scenario.getId());
     try {

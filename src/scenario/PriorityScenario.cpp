@@ -8,8 +8,8 @@
 #include "core/ExecutionMethod.h"
 #include "core/PriorityReservoirSettings.h"
 #include "operation/BidirectionalLinkManager.h"
-#include "operation/NetworkFlow.h"
 #include "operation/IsolatedPriorityOperation.h"
+#include "operation/NetworkFlow.h"
 #include "operation/PriorityOperation.h"
 #include "scenario/IsolatedNetworkSceneryManager.h"
 #include "scenario/ScenarioManager.h"
@@ -127,18 +127,16 @@ std::shared_ptr<HydrologicalStateCalculator> PriorityScenario::makeHydrologicalS
 }
 
 std::shared_ptr<OperationSystem> PriorityScenario::getOperationSystem() {
-  return std::make_shared<PriorityOperation>(getSettingsManager(), getElements(), getInterval(),
-                                             makeHydrologicalStateCalculator(),
-                                             getExecutionMethod()->getZeroContribution(),
-                                             getScenarioType());
+  return std::make_shared<PriorityOperation>(
+      getSettingsManager(), getElements(), getInterval(), makeHydrologicalStateCalculator(),
+      getExecutionMethod()->getZeroContribution(), getScenarioType());
 }
 
 std::shared_ptr<OperationSystem> PriorityScenario::getIsolatedOperationSystem(
     unsigned int isolatedScenarioId) {
   return std::make_shared<IsolatedPriorityOperation>(
       getSettingsManager(), getElements(), getInterval(), makeHydrologicalStateCalculator(),
-      getExecutionMethod()->getZeroContribution(),
-      getScenarioType(), isolatedScenarioId,
+      getExecutionMethod()->getZeroContribution(), getScenarioType(), isolatedScenarioId,
       ScenarioManager::getInstance().getSceneryIsolatedDataByID(isolatedScenarioId));
 }
 

@@ -22,7 +22,8 @@ void isolate(const std::string& project, const std::string& scenario,
   for (auto& entry : file["scenarios"]) {
     if (entry["name"] != scenario) continue;
     for (auto& node : entry["nodes"]) {
-      if (reservoirs.count(node["node"]["element"]["name"].get<std::string>())) node["isolated"] = 1;
+      if (reservoirs.count(node["node"]["element"]["name"].get<std::string>()))
+        node["isolated"] = 1;
     }
   }
   writeFile(project, file.dump());
@@ -34,7 +35,8 @@ std::map<std::string, std::string> resultFiles(const std::string& folder) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
     if (!entry.is_regular_file()) continue;
     const std::string text = readFile(entry.path().string());
-    files[std::filesystem::relative(entry.path(), folder).string()] = text.substr(text.find('\n') + 1);
+    files[std::filesystem::relative(entry.path(), folder).string()] =
+        text.substr(text.find('\n') + 1);
   }
   return files;
 }
@@ -47,11 +49,11 @@ TEST(KovaIsolatedRun, TheDemoSplitAtTwoReservoirsWritesTheResultsOfTheWholeRun) 
   TemporaryFolder folder("kova_isolated_");
   const std::string project = copyOfDemo(folder);
   isolate(project, kRules, {"Queimado", "Sobradinho"});
-  const auto whole =
-      kova({"run", project, "--scenario", kRules, "--no-save", "--quiet", "--csv", folder.file("whole")});
+  const auto whole = kova({"run", project, "--scenario", kRules, "--no-save", "--quiet", "--csv",
+                           folder.file("whole")});
   ASSERT_EQ(whole.status, exitOk) << whole.err;
-  const auto pieces = kova({"run", project, "--scenario", kRules, "--isolated", "--csv",
-                            folder.file("pieces")});
+  const auto pieces =
+      kova({"run", project, "--scenario", kRules, "--isolated", "--csv", folder.file("pieces")});
   ASSERT_EQ(pieces.status, exitOk) << pieces.err << pieces.out;
   EXPECT_NE(pieces.out.find(kRules + ": Cenário executado com sucesso!"), std::string::npos)
       << pieces.out;
@@ -69,8 +71,8 @@ TEST(KovaIsolatedRun, TheDemoSplitAtTwoReservoirsWritesTheResultsOfTheWholeRun) 
 TEST(KovaIsolatedRun, RefusalsPrintTheirText) {
   TemporaryFolder folder("kova_isolated_");
   const std::string project = copyOfDemo(folder);
-  const auto swarm = kova(
-      {"run", project, "--scenario", "Otimização das regras", "--isolated", "--no-save", "--quiet"});
+  const auto swarm = kova({"run", project, "--scenario", "Otimização das regras", "--isolated",
+                           "--no-save", "--quiet"});
   EXPECT_EQ(swarm.status, exitFindings);
   EXPECT_EQ(swarm.out,
             "Otimização das regras: Este tipo de cenário não pode ser executado no modo rede "

@@ -6,6 +6,7 @@
 #include "checks/IsolatedNetworkChecks.h"
 #include "core/Demand.h"
 #include "core/ElementsFilter.h"
+#include "core/IsolatedNetworkStreamsManager.h"
 #include "core/IsolatedNetworkUtils.h"
 #include "core/Junction.h"
 #include "core/SceneryIsolatedData.h"
@@ -57,7 +58,8 @@ std::shared_ptr<Link> linkInto(const std::shared_ptr<Element>& from, ElementType
 class IsolatedRuleNetwork : public ::testing::Test {
  protected:
   IsolatedRuleNetwork()
-      : network(Interval(Date(1931, 1, 1), Date(1970, 12, 1), Vocabulary::of(Periodicity::monthly))),
+      : network(
+            Interval(Date(1931, 1, 1), Date(1970, 12, 1), Vocabulary::of(Periodicity::monthly))),
         scenario(network.net.scenario) {}
   ~IsolatedRuleNetwork() override { ScenarioManager::getInstance().clear(); }
 
@@ -109,10 +111,12 @@ TEST_F(IsolatedRuleNetwork, SplitsAtIsolatedReservoirsThroughUnionLinks) {
 
   const auto pieces = IsolatedNetworkSceneryManager::produceIsolatedSceneries(*scenario);
   ASSERT_EQ(pieces.size(), 3u);
-  EXPECT_EQ(std::set<std::string>({pieces[0]->getName(), pieces[1]->getName()}),
-            std::set<std::string>({"Teste - " + queimado()->getName(), "Teste - " + lower()->getName()}));
+  EXPECT_EQ(
+      std::set<std::string>({pieces[0]->getName(), pieces[1]->getName()}),
+      std::set<std::string>({"Teste - " + queimado()->getName(), "Teste - " + lower()->getName()}));
   EXPECT_EQ(pieces[2]->getName(), "Teste-general");
-  const auto& lowerPiece = pieces[0]->getName() == "Teste - " + lower()->getName() ? pieces[0] : pieces[1];
+  const auto& lowerPiece =
+      pieces[0]->getName() == "Teste - " + lower()->getName() ? pieces[0] : pieces[1];
   // Upstream of the reservoir, and downstream what only it feeds; the confluence stays outside.
   for (const auto& inside : {middle()->getId(), industry()->getId(), lower()->getId()}) {
     EXPECT_NO_THROW(lowerPiece->getElement(inside));
@@ -121,7 +125,8 @@ TEST_F(IsolatedRuleNetwork, SplitsAtIsolatedReservoirsThroughUnionLinks) {
 
   const auto& general = pieces[2];
   std::set<unsigned int> entering;
-  for (const auto& node : ElementsFilter::filterByType(general->getElements(), {ElementType::junction})) {
+  for (const auto& node :
+       ElementsFilter::filterByType(general->getElements(), {ElementType::junction})) {
     const auto junction = std::static_pointer_cast<Junction>(node);
     if (!junction->getIsUnion()) continue;
     EXPECT_GE(junction->getId(), scenario->getMaxElementId());
@@ -133,13 +138,20 @@ TEST_F(IsolatedRuleNetwork, SplitsAtIsolatedReservoirsThroughUnionLinks) {
   EXPECT_THROW(general->getElement(queimado()->getId()), std::invalid_argument);
 
   std::size_t drains = 0;
-  for (const auto& node : ElementsFilter::filterByType(lowerPiece->getElements(), {ElementType::drain})) {
+  for (const auto& node :
+       ElementsFilter::filterByType(lowerPiece->getElements(), {ElementType::drain})) {
     const auto drain = std::static_pointer_cast<DrainDemand>(node);
     EXPECT_TRUE(drain->getIsVirtual());
     EXPECT_GE(drain->getId(), scenario->getMaxElementId());
     ++drains;
   }
   EXPECT_EQ(drains, 2u);  // the reservoir's own way to the confluence and the industry's return
+
+  EXPECT_EQ(IsolatedNetworkStreamsManager::getUpstreamIsolatedReservoirToNode(
+                std::static_pointer_cast<Node>(industry())),
+            lower());
+  EXPECT_EQ(IsolatedNetworkStreamsManager::getUpstreamIsolatedReservoirToNode(tresMarias()),
+            nullptr);
 }
 
 TEST_F(IsolatedRuleNetwork, PieceByPieceGivesExactlyTheWholeRun) {
@@ -158,7 +170,8 @@ TEST_F(IsolatedRuleNetwork, PieceByPieceGivesExactlyTheWholeRun) {
                 ->getMapOfJulianToValues());
   // A virtual drain takes whatever arrives: it asks for 99,999 m³/s on every date.
   const auto& firstPiece = isolatedData().getVectorOfSceneryStructure().front();
-  for (const auto& drain : ElementsFilter::filterByType(firstPiece->getElements(), {ElementType::drain})) {
+  for (const auto& drain :
+       ElementsFilter::filterByType(firstPiece->getElements(), {ElementType::drain})) {
     for (const auto& entry : drain->getInputSerie(SerieType::demand)->getMapOfJulianToValues()) {
       ASSERT_EQ(entry.second, 99999.0);
     }
@@ -210,7 +223,8 @@ TEST_F(IsolatedRuleNetwork, RefusalsNameWhatKeepsTheRunFromPieces) {
   IsolatedNetworkUtils::setReservoirIsolated(*scenario, retiro(), false);
 
   scenario->setExecutionMethod(std::make_shared<ExecutionWindowed>());
-  EXPECT_EQ(refusal(), "Não é possível executar no modo rede isolada com o método de execução em janelas!");
+  EXPECT_EQ(refusal(),
+            "Não é possível executar no modo rede isolada com o método de execução em janelas!");
   scenario->setExecutionMethod(std::make_shared<ExecutionContinuous>());
 
   linkInto(retiro(), ElementType::reservoir)->setIsBidirectional(true);
@@ -243,9 +257,10 @@ TEST(IsolatedNetworkChecks, AReservoirWithoutWayDownstreamLosesItsFlag) {
   // The link between the two crossed the border of the terminal's network; it no longer does.
   EXPECT_TRUE(net.scenario->getUnionLinks().empty());
   EXPECT_TRUE(IsolatedNetworkChecks::checkExistenceOfIsolatedReservoirInScenery(*net.scenario));
-  EXPECT_THROW_TEXT(IsolatedNetworkSceneryManager::getSceneryFromIsolatedNetwork(*net.scenario, terminal),
-                    std::invalid_argument,
-                    "IsolatedNetworkManager::getSceneryFromIsolatedNetwork: Reservoir is not isolated");
+  EXPECT_THROW_TEXT(
+      IsolatedNetworkSceneryManager::getSceneryFromIsolatedNetwork(*net.scenario, terminal),
+      std::invalid_argument,
+      "IsolatedNetworkManager::getSceneryFromIsolatedNetwork: Reservoir is not isolated");
 }
 
 TEST(SceneryIsolatedData, UnknownLinksAndUnwrittenDatesAreRefused) {

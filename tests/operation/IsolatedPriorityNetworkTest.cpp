@@ -20,8 +20,10 @@ class IsolatedPriorityNetwork : public ::testing::Test {
     lower = net.reservoir(5, 100, 20, 99);
     PeriodWalker::forEach(net.interval(), [&](const Date& date) {
       const double wet = date.getMonth() <= 4 ? 1.0 : 0.2;
-      upper->getInputSerie(SerieType::naturalIncrementalFlow)->setValue(date, net.m3s(date, 25 * wet));
-      lower->getInputSerie(SerieType::naturalIncrementalFlow)->setValue(date, net.m3s(date, 8 * wet));
+      upper->getInputSerie(SerieType::naturalIncrementalFlow)
+          ->setValue(date, net.m3s(date, 25 * wet));
+      lower->getInputSerie(SerieType::naturalIncrementalFlow)
+          ->setValue(date, net.m3s(date, 8 * wet));
     });
     own = net.demand(12, 1);
     auto junction = net.node(ElementType::junction);
@@ -53,8 +55,7 @@ class IsolatedPriorityNetwork : public ::testing::Test {
       for (std::size_t i = 0; i < want.size(); ++i) {
         PeriodWalker::forEach(net.interval(), [&](const Date& date) {
           EXPECT_NEAR(got[i]->getValue(date), want[i]->getValue(date), 1e-7)
-              << element->getName() << " " << want[i]->getName() << " "
-              << date.toString("%m/%Y");
+              << element->getName() << " " << want[i]->getName() << " " << date.toString("%m/%Y");
         });
       }
     }
@@ -84,11 +85,14 @@ TEST_F(IsolatedPriorityNetwork, WithUniqueOptimaThePiecesGiveTheWholeRun) {
   ASSERT_GT(total(*whole, shared, SerieType::supplyShortageVolume), 0.0);
   ASSERT_TRUE(runIsolated());
   expectSameResults(*whole);
-  const auto& data = ScenarioManager::getInstance().getSceneryIsolatedDataByID(net.scenario->getId());
+  const auto& data =
+      ScenarioManager::getInstance().getSceneryIsolatedDataByID(net.scenario->getId());
   ASSERT_EQ(data.getVectorOfSceneryStructure().size(), 2u);
   PeriodWalker::forEach(net.interval(), [&](const Date& date) {
     EXPECT_NEAR(data.getUnionFlow(toJunction->getId(), date),
-                whole->getElement(toJunction->getId())->getOutputSerie(SerieType::inflow, 0)->getValue(date),
+                whole->getElement(toJunction->getId())
+                    ->getOutputSerie(SerieType::inflow, 0)
+                    ->getValue(date),
                 1e-9);
   });
 }

@@ -1,0 +1,115 @@
+#include "service/SocketClient.h"
+
+#include <netdb.h>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using AddressList = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
+
+AddressList resolve(int family, int socktype, int protocol, const std::string& host,
+                    const std::string& port) {
+  addrinfo hints{};
+  hints.ai_family = family;
+  hints.ai_socktype = socktype;
+  hints.ai_protocol = protocol;
+  addrinfo* found = nullptr;
+  if (getaddrinfo(host.c_str(), port.c_str(), &hints, &found) != 0 || found == nullptr) {
+    return AddressList(nullptr, &freeaddrinfo);
+  }
+  return AddressList(found, &freeaddrinfo);
+}
+
+}  // namespace
+
+SocketClient::SocketClient(uint64_t socket) : socket_(socket) {}
+
+SocketClient::~SocketClient() { closeSocket(); }
+
+void SocketClient::create(int family, int socktype, int protocol, const std::string& host,
+                          const std::string& port) {
+  closeSocket();
+  AddressList addresses = resolve(family, socktype, protocol, host, port);
+  if (!addresses) {
+    throw std::runtime_error("Error: invalid socket.");
+  }
+  int descriptor = ::socket(addresses->ai_family, addresses->ai_socktype, addresses->ai_protocol);
+  if (descriptor < 0) {
+    throw std::runtime_error("Error: invalid socket.");
+  }
+  socket_ = static_cast<uint64_t>(descriptor);
+  host_ = host;
+  port_ = port;
+  family_ = family;
+  socktype_ = socktype;
+  protocol_ = protocol;
+}
+
+bool SocketClient::connectTo() {
+  if (socket_ == invalidSocket) {
+    return false;
+  }
+  AddressList addresses = resolve(family_, socktype_, protocol_, host_, port_);
+  for (addrinfo* address = addresses.get(); address != nullptr; address = address->ai_next) {
+    if (::connect(static_cast<int>(socket_), address->ai_addr, address->ai_addrlen) == 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
+bool SocketClient::sendMsg(const std::string& message) {
+  std::size_t sent = 0;
+  while (sent < message.size()) {
+    // MSG_NOSIGNAL: a peer that went away must give an error here, not kill the process.
+    ssize_t count = ::send(static_cast<int>(socket_), message.data() + sent, message.size() - sent,
+                           MSG_NOSIGNAL);
+    if (count < 0 && errno == EINTR) {
+      continue;
+    }
+    if (count <= 0) {
+      return false;
+    }
+    sent += static_cast<std::size_t>(count);
+  }
+  return true;
+}
+
+long SocketClient::recvMsg(char* buffer, std::size_t maxBytes) {
+  for (;;) {
+    ssize_t count = ::recv(static_cast<int>(socket_), buffer, maxBytes, 0);
+    if (count < 0 && errno == EINTR) {
+      continue;
+    }
+    return count < 0 ? -1 : static_cast<long>(count);
+  }
+}
+
+bool SocketClient::setReceiveTimeout(int milliseconds) {
+  timeval limit{};
+  limit.tv_sec = milliseconds / 1000;
+  limit.tv_usec = (milliseconds % 1000) * 1000;
+  return ::setsockopt(static_cast<int>(socket_), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit)) ==
+         0;
+}
+
+void SocketClient::closeSocket() {
+  if (socket_ != invalidSocket) {
+    ::close(static_cast<int>(socket_));
+    socket_ = invalidSocket;
+  }
+}
+
+uint64_t SocketClient::getSocket() const { return socket_; }
+
+uint64_t SocketClient::release() {
+  uint64_t socket = socket_;
+  socket_ = invalidSocket;
+  return socket;
+}

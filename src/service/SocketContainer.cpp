@@ -1,0 +1,3 @@
+#include "service/SocketContainer.h"
+
+SocketContainer::SocketContainer(uint64_t socket) : socket(socket) {}

@@ -1,0 +1,93 @@
+#include "service/SocketServer.h"
+
+#include <netdb.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using AddressList = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
+
+AddressList resolve(int family, int socktype, int protocol, const std::string& host,
+                    const std::string& service) {
+  addrinfo hints{};
+  hints.ai_family = family;
+  hints.ai_socktype = socktype;
+  hints.ai_protocol = protocol;
+  hints.ai_flags = AI_PASSIVE;
+  addrinfo* found = nullptr;
+  if (getaddrinfo(host.c_str(), service.c_str(), &hints, &found) != 0 || found == nullptr) {
+    throw std::runtime_error("SocketServer::create(): cannot resolve " + host + ":" + service);
+  }
+  return AddressList(found, &freeaddrinfo);
+}
+
+}  // namespace
+
+SocketServer::~SocketServer() { closeSocket(); }
+
+void SocketServer::create(int family, int socktype, int protocol, const std::string& service,
+                          const std::string& host) {
+  closeSocket();
+  AddressList address = resolve(family, socktype, protocol, host, service);
+  socket_ = ::socket(address->ai_family, address->ai_socktype, address->ai_protocol);
+  if (socket_ < 0) {
+    throw std::runtime_error("SocketServer::create(): cannot open a socket");
+  }
+  const int yes = 1;
+  ::setsockopt(socket_, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof(yes));
+  host_ = host;
+  service_ = service;
+  family_ = family;
+  socktype_ = socktype;
+  protocol_ = protocol;
+}
+
+void SocketServer::bindSocket() {
+  AddressList address = resolve(family_, socktype_, protocol_, host_, service_);
+  if (::bind(socket_, address->ai_addr, address->ai_addrlen) != 0) {
+    throw std::runtime_error("SocketServer::bindSocket(): cannot bind " + host_ + ":" + service_ +
+                             " (" + std::strerror(errno) + ")");
+  }
+}
+
+void SocketServer::listenSocket() {
+  if (::listen(socket_, SOMAXCONN) != 0) {
+    throw std::runtime_error(std::string("SocketServer::listenSocket(): ") + std::strerror(errno));
+  }
+}
+
+uint64_t SocketServer::acceptConnection(int timeoutMilliseconds) {
+  pollfd watched{socket_, POLLIN, 0};
+  if (::poll(&watched, 1, timeoutMilliseconds) <= 0) {
+    return invalidSocket;
+  }
+  const int accepted = ::accept(socket_, nullptr, nullptr);
+  return accepted < 0 ? invalidSocket : static_cast<uint64_t>(accepted);
+}
+
+int SocketServer::getPort() const {
+  sockaddr_storage address{};
+  socklen_t size = sizeof(address);
+  if (::getsockname(socket_, reinterpret_cast<sockaddr*>(&address), &size) != 0) {
+    return -1;
+  }
+  if (address.ss_family == AF_INET6) {
+    return ntohs(reinterpret_cast<const sockaddr_in6*>(&address)->sin6_port);
+  }
+  return ntohs(reinterpret_cast<const sockaddr_in*>(&address)->sin_port);
+}
+
+void SocketServer::closeSocket() {
+  if (socket_ >= 0) {
+    ::close(socket_);
+    socket_ = -1;
+  }
+}

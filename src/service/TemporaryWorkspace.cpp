@@ -7,7 +7,7 @@
 
 TemporaryWorkspace::TemporaryWorkspace() {
   const auto base = std::filesystem::temp_directory_path();
-  std::string pattern = (base / "kova_service_XXXXXX").string();
+  std::string pattern = (base / "kova_request_XXXXXX").string();
   if (::mkdtemp(pattern.data()) == nullptr) {
     throw std::runtime_error("TemporaryWorkspace: cannot create a folder in " + base.string());
   }

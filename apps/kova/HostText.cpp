@@ -21,6 +21,15 @@ const std::unordered_map<std::string, std::string>& portuguese() {
        " (aviso: os dados de entrada do projeto foram gravados depois dela)"},
       {"cannot make the folder", "não foi possível criar a pasta"},
       {"build the São Francisco demo project", "monta o projeto de demonstração do São Francisco"},
+      {"serve the projects of a folder over TCP", "serve os projetos de uma pasta por TCP"},
+      {"not a folder", "não é uma pasta"},
+      {"--port must be at most 65535", "--port deve ser no máximo 65535"},
+      {"--workers must be at most 64", "--workers deve ser no máximo 64"},
+      {"serving {1} on {2} port {3} with {4} worker(s); changes {5}",
+       "servindo {1} em {2} porta {3} com {4} trabalhador(es); alterações {5}"},
+      {"allowed", "permitidas"},
+      {"refused", "recusadas"},
+      {"stopped after the requests in flight", "parado após as requisições em curso"},
       {"saving", "gravando"},
       {"demo cancelled; nothing was written", "demonstração cancelada; nada foi escrito"},
       {"demo project written to {1}", "projeto de demonstração escrito em {1}"},
@@ -285,6 +294,22 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "Baixo a Moxotó sobre as vazões naturais mensais de 1931-2019, com uma simulação por\n"
         "regras, uma operação por prioridades e janelas anuais a partir do armazenamento atual.\n"
         "--until YEAR termina o registro em dezembro de YEAR, para um teste mais rápido.\n"}},
+      {"serve",
+       {"Serves the projects of DIR to TLV clients over TCP on ADDR (default 127.0.0.1, this\n"
+        "machine only) and port N (default 7040; 0 takes a free one), with K workers (default\n"
+        "1, at most 64). A project is DIR/P.sjson, or DIR/personalized/CODE/P.sjson for a\n"
+        "request with a code; names that would lead out of DIR are refused. Requests that\n"
+        "change a series are refused unless --allow-changes. A frame above 64 MiB, cut short\n"
+        "or not whole within 10 s ends its connection only. The workers' log goes to the\n"
+        "standard output. SIGINT or SIGTERM stops the service after the requests in flight.\n",
+        "Serve os projetos de DIR a clientes TLV por TCP em ADDR (padrão 127.0.0.1, só esta\n"
+        "máquina) e porta N (padrão 7040; 0 toma uma livre), com K trabalhadores (padrão 1, no\n"
+        "máximo 64). Um projeto é DIR/P.sjson, ou DIR/personalized/CODE/P.sjson para uma\n"
+        "requisição com código; nomes que levariam para fora de DIR são recusados. Requisições\n"
+        "que alteram uma série são recusadas salvo com --allow-changes. Um quadro acima de\n"
+        "64 MiB, interrompido ou incompleto após 10 s encerra apenas sua conexão. O registro dos\n"
+        "trabalhadores vai para a saída padrão. SIGINT ou SIGTERM para o serviço após as\n"
+        "requisições em curso.\n"}},
       {"export",
        {"csv: the results of the latest stored run, one CSV file per element and window, in a\n"
         "folder named after the scenario. inputs: the input series, one CSV file per element.\n"

@@ -21,6 +21,7 @@
 #include "RunCommand.h"
 #include "SaveAsCommand.h"
 #include "SeriesCommand.h"
+#include "ServeCommand.h"
 #include "SolutionCommand.h"
 #include "UsageError.h"
 
@@ -46,7 +47,7 @@ const std::vector<Command>& KovaApp::commands() {
       FrontCommand::describe(),       CurveCommand::describe(),  SolutionCommand::describe(),
       DeriveRulesCommand::describe(), ReportCommand::describe(), ExportCommand::describe(),
       NewCommand::describe(),         SaveAsCommand::describe(), DemoCommand::describe(),
-      GenerateCommand::describe()};
+      GenerateCommand::describe(),    ServeCommand::describe()};
   return all;
 }
 

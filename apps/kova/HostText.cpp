@@ -30,6 +30,17 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"allowed", "permitidas"},
       {"refused", "recusadas"},
       {"stopped after the requests in flight", "parado após as requisições em curso"},
+      {"update a reservoir's input series or curve from the web service",
+       "atualiza as séries de entrada ou a curva de um reservatório pelo serviço web"},
+      {"give one of --series and --cav", "dê uma das opções --series e --cav"},
+      {"scenario \"{1}\" has no reservoir named \"{2}\"",
+       "o cenário \"{1}\" não tem reservatório chamado \"{2}\""},
+      {"{1}: \"{2}\" updated with {3} value(s)", "{1}: \"{2}\" atualizada com {3} valor(es)"},
+      {"{1}: the web service has no \"{2}\"", "{1}: o serviço web não tem \"{2}\""},
+      {"{1}: the web service has no level-area-volume table",
+       "{1}: o serviço web não tem tabela cota-área-volume"},
+      {"{1}: level-area-volume table replaced by {2} row(s)",
+       "{1}: tabela cota-área-volume substituída por {2} linha(s)"},
       {"saving", "gravando"},
       {"demo cancelled; nothing was written", "demonstração cancelada; nada foi escrito"},
       {"demo project written to {1}", "projeto de demonstração escrito em {1}"},
@@ -310,6 +321,17 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "64 MiB, interrompido ou incompleto após 10 s encerra apenas sua conexão. O registro dos\n"
         "trabalhadores vai para a saída padrão. SIGINT ou SIGTERM para o serviço após as\n"
         "requisições em curso.\n"}},
+      {"update",
+       {"Asks the web service of the project's configuration (its host and port) for the\n"
+        "reservoir NAME of scenario NAME: with --series, each input series the service keeps,\n"
+        "stored in the project database; with --cav, the level-area-volume table, which\n"
+        "replaces the reservoir's. Prints one line per series or table. Exit status 1 when\n"
+        "nothing was updated.\n",
+        "Pede ao serviço web da configuração do projeto (seu host e porta) o reservatório NAME\n"
+        "do cenário NAME: com --series, cada série de entrada que o serviço mantém, gravada no\n"
+        "banco de dados do projeto; com --cav, a tabela cota-área-volume, que substitui a do\n"
+        "reservatório. Mostra uma linha por série ou tabela. Código de saída 1 quando nada foi\n"
+        "atualizado.\n"}},
       {"export",
        {"csv: the results of the latest stored run, one CSV file per element and window, in a\n"
         "folder named after the scenario. inputs: the input series, one CSV file per element.\n"

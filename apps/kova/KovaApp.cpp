@@ -23,6 +23,7 @@
 #include "SeriesCommand.h"
 #include "ServeCommand.h"
 #include "SolutionCommand.h"
+#include "UpdateCommand.h"
 #include "UsageError.h"
 
 namespace {
@@ -47,7 +48,7 @@ const std::vector<Command>& KovaApp::commands() {
       FrontCommand::describe(),       CurveCommand::describe(),  SolutionCommand::describe(),
       DeriveRulesCommand::describe(), ReportCommand::describe(), ExportCommand::describe(),
       NewCommand::describe(),         SaveAsCommand::describe(), DemoCommand::describe(),
-      GenerateCommand::describe(),    ServeCommand::describe()};
+      GenerateCommand::describe(),    ServeCommand::describe(),  UpdateCommand::describe()};
   return all;
 }
 

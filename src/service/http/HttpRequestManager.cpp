@@ -27,6 +27,8 @@ HttpRequestManager::HttpRequestManager(std::string host, unsigned int port, Http
     : host(std::move(host)), port(port), limits(limits) {}
 
 HttpResponse HttpRequestManager::sendRequest(const HttpRequestBuilder& request) const {
+  // The resolver would take a larger number modulo 65536 and reach another service.
+  if (port == 0 || port > 65535) throw std::runtime_error("Error: invalid socket.");
   SocketClient client;
   client.create(AF_INET, SOCK_STREAM, IPPROTO_TCP, host, std::to_string(port));
   boundConnectAndSend(client, limits.timeoutMilliseconds);

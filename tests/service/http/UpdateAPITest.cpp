@@ -152,6 +152,11 @@ TEST_F(UpdateAPITest, AServiceThatIsNotThereIsAFailedConnection) {
   ConfigurationHeader::setUrlPortToWebService(port);
   UpdateCAVAPI update(reservoir, scenario);
   EXPECT_THROW_TEXT(update.update(), std::runtime_error, "Error: connect to server.");
+  // 65536 + 80 would reach port 80 if it were taken modulo 65536.
+  for (const unsigned int outside : {0u, 65616u}) {
+    ConfigurationHeader::setUrlPortToWebService(outside);
+    EXPECT_THROW_TEXT(update.update(), std::runtime_error, "Error: invalid socket.");
+  }
 }
 
 TEST_F(UpdateAPITest, OnlyAReservoirWithAnInstitutionalIdAndAKnownSeriesIsAsked) {

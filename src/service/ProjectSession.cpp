@@ -10,9 +10,22 @@
 #include "project/database/SQLStorage.h"
 #include "scenario/ScenarioManager.h"
 
-ProjectSession::ProjectSession(const std::string& path, Access access) : lock(exclusive()) {
+namespace {
+
+const char* const keptFile = "project";
+const char* const keptDatabase = "database";
+
+}  // namespace
+
+ProjectSession::ProjectSession(const std::string& path, Access access)
+    : lock(exclusive()), file(path) {
   ProjectFunctions::closeProject();
   try {
+    if (access == Access::readWrite) {
+      backup.emplace();
+      std::filesystem::copy_file(path, backup->path() / keptFile);
+      std::filesystem::copy_file(LoadProject::databasePath(path), backup->path() / keptDatabase);
+    }
     all = access == Access::readOnly ? LoadProject::loadReadOnly(path, nullptr)
                                      : LoadProject::load(path, nullptr);
   } catch (...) {
@@ -24,7 +37,23 @@ ProjectSession::ProjectSession(const std::string& path, Access access) : lock(ex
   }
 }
 
-ProjectSession::~ProjectSession() { ProjectFunctions::closeProject(); }
+ProjectSession::~ProjectSession() {
+  ProjectFunctions::closeProject();
+  if (backup) restore();
+}
+
+void ProjectSession::restore() const {
+  // The database closed above: the copies can take the files' place. A journal the failed write
+  // left would replay over the copy, so it goes too.
+  const auto options = std::filesystem::copy_options::overwrite_existing;
+  std::error_code ignored;
+  const std::string database = LoadProject::databasePath(file.string());
+  for (const char* journal : {"-journal", "-wal", "-shm"}) {
+    std::filesystem::remove(database + journal, ignored);
+  }
+  std::filesystem::copy_file(backup->path() / keptFile, file, options, ignored);
+  std::filesystem::copy_file(backup->path() / keptDatabase, database, options, ignored);
+}
 
 std::shared_ptr<Scenario> ProjectSession::scenario(const std::string& name) const {
   for (const auto& candidate : all) {

@@ -24,7 +24,7 @@ bool RequestModifySerieOfElementRequestProcessor::serve() {
   request.at("serietypename").get<std::string>();
   const auto& changes = request.at("serie");
   {
-    const ProjectSession session(path, ProjectSession::Access::readWrite);
+    ProjectSession session(path, ProjectSession::Access::readWrite);
     const auto scenario = session.scenario(scenery);
     const auto& element = scenario->getElement(elementId);
     const auto& serie = element->getInputSerie(SerieType::demand);
@@ -36,6 +36,7 @@ bool RequestModifySerieOfElementRequestProcessor::serve() {
     if (!SaveProject::saveAfterCommitData(path, nullptr)) {
       throw std::runtime_error("RequestModifySerieOfElementRequestProcessor: cannot write " + path);
     }
+    session.commit();
   }
   return reply("Responder alt. serie de elemento", "none");
 }

@@ -140,7 +140,8 @@ TEST(FrameTest, EveryFrameTypeHasItsDescriptionAndItsProcessor) {
     EXPECT_EQ(EnumTlvTypeFactoryByIntegerType::findByDescription(kind.getName()), kind);
     const auto processor =
         RequestProcessingFactoryByEnumType::make(Requisition(0, TLV(type, 0, "")));
-    EXPECT_EQ(typeid(*processor).name(), name);
+    const RequestProcessor& made = *processor;
+    EXPECT_EQ(typeid(made).name(), name);
   }
   EXPECT_EQ(EnumTlvTypeFactoryByIntegerType::make(8).getName(),
             "Requisitar alt. em serie de elemento");

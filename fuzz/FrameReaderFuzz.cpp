@@ -20,8 +20,8 @@
 namespace {
 
 std::string servedFolder() {
-  const auto folder =
-      std::filesystem::temp_directory_path() / ("kova_frame_fuzz_" + std::to_string(getpid()));
+  // One folder for every run: libFuzzer's exit leaves it, and the next run takes it over.
+  const auto folder = std::filesystem::temp_directory_path() / "kova_frame_fuzz";
   std::filesystem::create_directories(folder);
   std::ofstream(folder / "p.sjson") << R"({"scenarios": [{"name": "S"}]})";
   return folder.string();

@@ -9,24 +9,7 @@
 #include <memory>
 #include <stdexcept>
 
-namespace {
-
-using AddressList = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
-
-AddressList resolve(int family, int socktype, int protocol, const std::string& host,
-                    const std::string& port) {
-  addrinfo hints{};
-  hints.ai_family = family;
-  hints.ai_socktype = socktype;
-  hints.ai_protocol = protocol;
-  addrinfo* found = nullptr;
-  if (getaddrinfo(host.c_str(), port.c_str(), &hints, &found) != 0 || found == nullptr) {
-    return AddressList(nullptr, &freeaddrinfo);
-  }
-  return AddressList(found, &freeaddrinfo);
-}
-
-}  // namespace
+#include "service/AddressResolver.h"
 
 SocketClient::SocketClient(uint64_t socket) : socket_(socket) {}
 
@@ -35,7 +18,8 @@ SocketClient::~SocketClient() { closeSocket(); }
 void SocketClient::create(int family, int socktype, int protocol, const std::string& host,
                           const std::string& port) {
   closeSocket();
-  AddressList addresses = resolve(family, socktype, protocol, host, port);
+  AddressResolver::AddressList addresses =
+      AddressResolver::resolve(family, socktype, protocol, host, port);
   if (!addresses) {
     throw std::runtime_error("Error: invalid socket.");
   }
@@ -55,7 +39,8 @@ bool SocketClient::connectTo() {
   if (socket_ == invalidSocket) {
     return false;
   }
-  AddressList addresses = resolve(family_, socktype_, protocol_, host_, port_);
+  AddressResolver::AddressList addresses =
+      AddressResolver::resolve(family_, socktype_, protocol_, host_, port_);
   for (addrinfo* address = addresses.get(); address != nullptr; address = address->ai_next) {
     if (::connect(static_cast<int>(socket_), address->ai_addr, address->ai_addrlen) == 0) {
       return true;

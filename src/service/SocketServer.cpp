@@ -11,22 +11,19 @@
 #include <memory>
 #include <stdexcept>
 
+#include "service/AddressResolver.h"
+
 namespace {
 
-using AddressList = std::unique_ptr<addrinfo, decltype(&freeaddrinfo)>;
-
-AddressList resolve(int family, int socktype, int protocol, const std::string& host,
-                    const std::string& service) {
-  addrinfo hints{};
-  hints.ai_family = family;
-  hints.ai_socktype = socktype;
-  hints.ai_protocol = protocol;
-  hints.ai_flags = AI_PASSIVE;
-  addrinfo* found = nullptr;
-  if (getaddrinfo(host.c_str(), service.c_str(), &hints, &found) != 0 || found == nullptr) {
+// The address to listen on. Throws std::runtime_error "SocketServer::create(): cannot resolve
+// <host>:<service>" when there is none.
+AddressResolver::AddressList passiveAddress(int family, int socktype, int protocol,
+                                            const std::string& host, const std::string& service) {
+  auto address = AddressResolver::resolve(family, socktype, protocol, host, service, AI_PASSIVE);
+  if (!address) {
     throw std::runtime_error("SocketServer::create(): cannot resolve " + host + ":" + service);
   }
-  return AddressList(found, &freeaddrinfo);
+  return address;
 }
 
 }  // namespace
@@ -36,7 +33,7 @@ SocketServer::~SocketServer() { closeSocket(); }
 void SocketServer::create(int family, int socktype, int protocol, const std::string& service,
                           const std::string& host) {
   closeSocket();
-  AddressList address = resolve(family, socktype, protocol, host, service);
+  AddressResolver::AddressList address = passiveAddress(family, socktype, protocol, host, service);
   socket_ = ::socket(address->ai_family, address->ai_socktype, address->ai_protocol);
   if (socket_ < 0) {
     throw std::runtime_error("SocketServer::create(): cannot open a socket");
@@ -51,7 +48,8 @@ void SocketServer::create(int family, int socktype, int protocol, const std::str
 }
 
 void SocketServer::bindSocket() {
-  AddressList address = resolve(family_, socktype_, protocol_, host_, service_);
+  AddressResolver::AddressList address =
+      passiveAddress(family_, socktype_, protocol_, host_, service_);
   if (::bind(socket_, address->ai_addr, address->ai_addrlen) != 0) {
     throw std::runtime_error("SocketServer::bindSocket(): cannot bind " + host_ + ":" + service_ +
                              " (" + std::strerror(errno) + ")");

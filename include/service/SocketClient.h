@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "service/AddressResolver.h"
+
 // A connected (or connectable) POSIX stream socket on the client side. It owns its descriptor:
 // the destructor closes it unless it was released. One object serves one connection.
 class SocketClient {
@@ -43,9 +45,6 @@ class SocketClient {
 
  private:
   uint64_t socket_ = invalidSocket;
-  std::string host_;
-  std::string port_;
-  int family_ = 0;
-  int socktype_ = 0;
-  int protocol_ = 0;
+  // What create() resolved, for connectTo().
+  AddressResolver::AddressList addresses{nullptr, &freeaddrinfo};
 };

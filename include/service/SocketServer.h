@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "service/AddressResolver.h"
+
 // The listening socket of the service, over POSIX sockets.
 class SocketServer {
  public:
@@ -33,9 +35,8 @@ class SocketServer {
 
  private:
   int socket_ = -1;
+  // What create() resolved, for bindSocket() and its failure text.
+  AddressResolver::AddressList address{nullptr, &freeaddrinfo};
   std::string host_;
   std::string service_;
-  int family_ = 0;
-  int socktype_ = 0;
-  int protocol_ = 0;
 };

@@ -18,29 +18,23 @@ SocketClient::~SocketClient() { closeSocket(); }
 void SocketClient::create(int family, int socktype, int protocol, const std::string& host,
                           const std::string& port) {
   closeSocket();
-  AddressResolver::AddressList addresses =
+  AddressResolver::AddressList resolved =
       AddressResolver::resolve(family, socktype, protocol, host, port);
-  if (!addresses) {
+  if (!resolved) {
     throw std::runtime_error("Error: invalid socket.");
   }
-  int descriptor = ::socket(addresses->ai_family, addresses->ai_socktype, addresses->ai_protocol);
+  int descriptor = ::socket(resolved->ai_family, resolved->ai_socktype, resolved->ai_protocol);
   if (descriptor < 0) {
     throw std::runtime_error("Error: invalid socket.");
   }
   socket_ = static_cast<uint64_t>(descriptor);
-  host_ = host;
-  port_ = port;
-  family_ = family;
-  socktype_ = socktype;
-  protocol_ = protocol;
+  addresses = std::move(resolved);
 }
 
 bool SocketClient::connectTo() {
   if (socket_ == invalidSocket) {
     return false;
   }
-  AddressResolver::AddressList addresses =
-      AddressResolver::resolve(family_, socktype_, protocol_, host_, port_);
   for (addrinfo* address = addresses.get(); address != nullptr; address = address->ai_next) {
     if (::connect(static_cast<int>(socket_), address->ai_addr, address->ai_addrlen) == 0) {
       return true;

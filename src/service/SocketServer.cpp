@@ -33,24 +33,20 @@ SocketServer::~SocketServer() { closeSocket(); }
 void SocketServer::create(int family, int socktype, int protocol, const std::string& service,
                           const std::string& host) {
   closeSocket();
-  AddressResolver::AddressList address = passiveAddress(family, socktype, protocol, host, service);
-  socket_ = ::socket(address->ai_family, address->ai_socktype, address->ai_protocol);
+  AddressResolver::AddressList resolved = passiveAddress(family, socktype, protocol, host, service);
+  socket_ = ::socket(resolved->ai_family, resolved->ai_socktype, resolved->ai_protocol);
   if (socket_ < 0) {
     throw std::runtime_error("SocketServer::create(): cannot open a socket");
   }
   const int yes = 1;
   ::setsockopt(socket_, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof(yes));
+  address = std::move(resolved);
   host_ = host;
   service_ = service;
-  family_ = family;
-  socktype_ = socktype;
-  protocol_ = protocol;
 }
 
 void SocketServer::bindSocket() {
-  AddressResolver::AddressList address =
-      passiveAddress(family_, socktype_, protocol_, host_, service_);
-  if (::bind(socket_, address->ai_addr, address->ai_addrlen) != 0) {
+  if (!address || ::bind(socket_, address->ai_addr, address->ai_addrlen) != 0) {
     throw std::runtime_error("SocketServer::bindSocket(): cannot bind " + host_ + ":" + service_ +
                              " (" + std::strerror(errno) + ")");
   }

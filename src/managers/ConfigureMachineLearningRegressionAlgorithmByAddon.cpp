@@ -25,6 +25,14 @@ std::pair<Model&, const Addon&> asKind(MachineLearningRegressionAlgorithm& algor
   return {*model, *settings};
 }
 
+// Trees and the trees of a forest take the same three limits.
+template <typename Model>
+void applyTreeLimits(Model& model, const TreeLimits& limits) {
+  model.setMaxNumberOfLeaves(limits.maxNumberOfLeaves);
+  model.setMaxDepth(limits.maxDepth);
+  model.setCp(limits.cp);
+}
+
 }  // namespace
 
 void ConfigureMachineLearningRegressionAlgorithmByAddon::make(
@@ -66,9 +74,7 @@ void ConfigureMachineLearningRegressionAlgorithmByAddon::makeRegressionTree(
   auto [tree, settings] =
       asKind<RegressionTreeAlgorithm, ConfigureRuleElementFromPriorityRegressionTreeAddon>(
           algorithm, addon);
-  tree.setMaxNumberOfLeaves(settings.getTreeLimits().maxNumberOfLeaves);
-  tree.setMaxDepth(settings.getTreeLimits().maxDepth);
-  tree.setCp(settings.getTreeLimits().cp);
+  applyTreeLimits(tree, settings.getTreeLimits());
 }
 
 void ConfigureMachineLearningRegressionAlgorithmByAddon::makeRandomForest(
@@ -81,7 +87,5 @@ void ConfigureMachineLearningRegressionAlgorithmByAddon::makeRandomForest(
   forest.setNumberOfAttributesInTree(settings.getNumberOfAttributesInTree());
   forest.setDatasetPercentInTree(settings.getDatasetPercentInTree());
   forest.setReplacement(settings.isReplacement());
-  forest.setMaxNumberOfLeaves(settings.getTreeLimits().maxNumberOfLeaves);
-  forest.setMaxDepth(settings.getTreeLimits().maxDepth);
-  forest.setCp(settings.getTreeLimits().cp);
+  applyTreeLimits(forest, settings.getTreeLimits());
 }

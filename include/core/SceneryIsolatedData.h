@@ -34,8 +34,11 @@ class SceneryIsolatedData {
   // The union link's flow at date, m³/s. Throws as getSerieOfUnionLinkID, also when no piece has
   // written that date yet.
   double getUnionFlow(unsigned int linkId, const Date& date) const;
-  // Records, at date, the "Vazão afluente" of every enabled union link among elements.
-  void takeUnionFlows(const std::vector<std::shared_ptr<Element>>& elements, const Date& date,
+  // The enabled union links among elements: those whose flows a piece hands on.
+  static std::vector<std::shared_ptr<Link>> enabledUnionLinks(
+      const std::vector<std::shared_ptr<Element>>& elements);
+  // Records, at date, the "Vazão afluente" of each of links.
+  void takeUnionFlows(const std::vector<std::shared_ptr<Link>>& links, const Date& date,
                       unsigned int windowIndex) const;
 
  private:

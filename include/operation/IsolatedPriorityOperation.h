@@ -24,4 +24,6 @@ class IsolatedPriorityOperation : public PriorityOperation {
  private:
   unsigned int isolatedScenarioId;
   SceneryIsolatedData isolatedData;
+  // The piece's union links, found once for every period.
+  std::vector<std::shared_ptr<Link>> unionLinks;
 };

@@ -21,4 +21,6 @@ class IsolatedRuleOperation : public RuleOperation {
  private:
   unsigned int isolatedScenarioId;
   SceneryIsolatedData isolatedData;
+  // The piece's union links, found once for every period.
+  std::vector<std::shared_ptr<Link>> unionLinks;
 };

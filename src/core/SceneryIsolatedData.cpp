@@ -1,5 +1,6 @@
 #include "core/SceneryIsolatedData.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "common/SerieFactory.h"
@@ -48,10 +49,18 @@ double SceneryIsolatedData::getUnionFlow(unsigned int linkId, const Date& date) 
   return flow;
 }
 
-void SceneryIsolatedData::takeUnionFlows(const std::vector<std::shared_ptr<Element>>& elements,
+std::vector<std::shared_ptr<Link>> SceneryIsolatedData::enabledUnionLinks(
+    const std::vector<std::shared_ptr<Element>>& elements) {
+  std::vector<std::shared_ptr<Link>> links = ElementsFilter::filterByUnionLinks(elements);
+  links.erase(std::remove_if(links.begin(), links.end(),
+                             [](const std::shared_ptr<Link>& link) { return !link->isEnabled(); }),
+              links.end());
+  return links;
+}
+
+void SceneryIsolatedData::takeUnionFlows(const std::vector<std::shared_ptr<Link>>& links,
                                          const Date& date, unsigned int windowIndex) const {
-  for (const auto& link : ElementsFilter::filterByUnionLinks(elements)) {
-    if (!link->isEnabled()) continue;
+  for (const auto& link : links) {
     const double flow = link->getOutputSerie(SerieType::inflow, windowIndex)->getValue(date);
     getSerieOfUnionLinkID(link->getId())->setValue(date, flow);
   }

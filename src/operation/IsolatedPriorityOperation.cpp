@@ -10,11 +10,12 @@ IsolatedPriorityOperation::IsolatedPriorityOperation(
     : PriorityOperation(settingsManager, elements, interval, hydrologicalStateCalculator,
                         zeroContribution, scenarioType),
       isolatedScenarioId(isolatedScenarioId),
-      isolatedData(isolatedData) {}
+      isolatedData(isolatedData),
+      unionLinks(SceneryIsolatedData::enabledUnionLinks(elements)) {}
 
 void IsolatedPriorityOperation::postProcessing(const Callback& callback) {
   PriorityOperation::postProcessing(callback);
-  isolatedData.takeUnionFlows(getElements(), getDate(), getWindowIndex());
+  isolatedData.takeUnionFlows(unionLinks, getDate(), getWindowIndex());
 }
 
 std::shared_ptr<NetworkFlow> IsolatedPriorityOperation::makeNetworkFlow() {

@@ -8,7 +8,8 @@ IsolatedRuleOperation::IsolatedRuleOperation(const SettingsManager& settingsMana
                                              const SceneryIsolatedData& isolatedData)
     : RuleOperation(settingsManager, elements, interval, zeroContribution, scenarioType),
       isolatedScenarioId(isolatedScenarioId),
-      isolatedData(isolatedData) {}
+      isolatedData(isolatedData),
+      unionLinks(SceneryIsolatedData::enabledUnionLinks(elements)) {}
 
 double IsolatedRuleOperation::release(const std::shared_ptr<Link>& link) {
   return releaseWith(link, &isolatedData);
@@ -16,5 +17,5 @@ double IsolatedRuleOperation::release(const std::shared_ptr<Link>& link) {
 
 void IsolatedRuleOperation::postProcessing(const Callback& callback) {
   RuleOperation::postProcessing(callback);
-  isolatedData.takeUnionFlows(getElements(), getDate(), getWindowIndex());
+  isolatedData.takeUnionFlows(unionLinks, getDate(), getWindowIndex());
 }

@@ -12,7 +12,7 @@ packages=(
   libsqlite3-dev libsqlitecpp-dev
   nlohmann-json3-dev
   libboost-date-time-dev libboost-nowide-dev libboost-filesystem-dev
-  libminizip-dev libshp-dev
+  libminizip-dev libshp-dev libproj-dev
   graphviz
 )
 

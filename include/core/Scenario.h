@@ -86,6 +86,10 @@ class Scenario : public std::enable_shared_from_this<Scenario> {
   // scenario-wide data (ids, labels, pumping costs, layers, EPSG code), whatever target's kind.
   void copyNetworkInto(Scenario& target) const;
 
+  // Drops every element's settings and gives each the new settings of this kind of scenario, as
+  // a new element gets them (nodes first, so that links find their nodes' settings).
+  void remakeSettings();
+
   // Prepares the elements for a run: drains, storage tables, the rules' zeroContribution,
   // bidirectional links.
   virtual void preRun();

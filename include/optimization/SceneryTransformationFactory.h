@@ -9,6 +9,6 @@
 class SceneryTransformationFactory {
  public:
   // Throws std::invalid_argument "SceneryTransformationFactory::make(): no transformation from
-  // <from> to <to>" for a pair without one.
+  // <from> to <to>" for a pair without one: a kind into itself or an unknown id.
   static std::shared_ptr<SceneryTransformation> make(int from, int to);
 };

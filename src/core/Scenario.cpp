@@ -212,6 +212,20 @@ void Scenario::copyNetworkInto(Scenario& target) const {
   target.sceneryStatus = sceneryStatus;
 }
 
+void Scenario::remakeSettings() {
+  settingsManager = SettingsManager();
+  for (const auto& element : elements) {
+    settingsManager.make(element->getId(), getScenarioType(), element->getElementType());
+  }
+  for (const bool links : {false, true}) {
+    for (const auto& element : elements) {
+      if (ElementSets::links().count(element->getType()) == (links ? 1u : 0u)) {
+        posAddElement(element, false);
+      }
+    }
+  }
+}
+
 const std::shared_ptr<Element>& Scenario::getElement(unsigned int elementId) const {
   auto it = std::find_if(elements.begin(), elements.end(),
                          [elementId](const auto& e) { return e->getId() == elementId; });

@@ -5,21 +5,34 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
-#include "optimization/GuaranteeCurveToRuleTransformation.h"
+#include "optimization/SceneryKindTransformation.h"
 #include "vocabulary/EnumTypes.h"
 
 namespace {
 
 using Maker = std::function<std::shared_ptr<SceneryTransformation>()>;
 
-int kind(ScenarioType type) { return static_cast<int>(type); }
+// Every ordered pair of two different kinds, by their type ids.
+std::map<std::pair<int, int>, Maker> everyDirection() {
+  const std::vector<ScenarioType> kinds = {
+      ScenarioType::priorityOptimizer, ScenarioType::ruleSimulator, ScenarioType::ruleOptimizer,
+      ScenarioType::guaranteeCurve, ScenarioType::systemGuaranteeCurve};
+  std::map<std::pair<int, int>, Maker> table;
+  for (const ScenarioType from : kinds) {
+    for (const ScenarioType to : kinds) {
+      if (from == to) continue;
+      table[{static_cast<int>(from), static_cast<int>(to)}] = [from, to] {
+        return std::make_shared<SceneryKindTransformation>(from, to);
+      };
+    }
+  }
+  return table;
+}
 
 const std::map<std::pair<int, int>, Maker>& makers() {
-  static const std::map<std::pair<int, int>, Maker> table = {
-      {{kind(ScenarioType::guaranteeCurve), kind(ScenarioType::ruleSimulator)},
-       [] { return std::make_shared<GuaranteeCurveToRuleTransformation>(); }},
-  };
+  static const std::map<std::pair<int, int>, Maker> table = everyDirection();
   return table;
 }
 

@@ -11,7 +11,6 @@
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "optimization/GuaranteeCascade.h"
 #include "optimization/GuaranteeCurveScenario.h"
-#include "optimization/SceneryTransformationFactory.h"
 #include "rules/ConstReleaseRule.h"
 #include "rules/VolDepOneStaticReleaseRule.h"
 #include "scenario/ScenarioManager.h"
@@ -204,19 +203,4 @@ TEST(GuaranteeCurve, AnIsolatedTrialThatIsRefusedEndsTheRunWithItsText) {
   // The user's rules come back whatever ended the run.
   const auto first = cascade.settings(cascade.reservoirs[0])->getRule();
   EXPECT_EQ(std::static_pointer_cast<ConstReleaseRule>(first)->getRelease(), 7.0);
-}
-
-TEST(SceneryTransformationFactory, OnlyTheGuaranteeCurveBecomesARuleScenarioSoFar) {
-  Cascade cascade(kTwoYears, {kSeasons}, 40.0 * 30);
-  cascade.scenario->getExecutionMethod()->setZeroContribution(true);
-  const auto rule = SceneryTransformationFactory::make(3, 1)->transform(*cascade.scenario, 42);
-  EXPECT_EQ(rule->getScenarioType().getType(), ScenarioType::ruleSimulator);
-  EXPECT_EQ(rule->getId(), 42u);
-  EXPECT_EQ(rule->getName(), "Curva");
-  EXPECT_TRUE(rule->getExecutionMethod()->getZeroContribution());
-  EXPECT_EQ(rule->getElements().size(), cascade.scenario->getElements().size());
-  EXPECT_TRUE(rule->run(nullptr));
-  EXPECT_FALSE(cascade.scenario->hasResults());
-  EXPECT_THROW_TEXT(SceneryTransformationFactory::make(1, 3), std::invalid_argument,
-                    "SceneryTransformationFactory::make(): no transformation from 1 to 3");
 }

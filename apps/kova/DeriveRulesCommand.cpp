@@ -20,7 +20,6 @@
 #include "scenario/ConfigureRuleElementFromPriorityAddonFactory.h"
 #include "scenario/PriorityScenario.h"
 #include "scenario/RuleScenario.h"
-#include "scenario/ScenarioManager.h"
 
 namespace {
 
@@ -111,11 +110,7 @@ int DeriveRulesCommand::run(const CommandLine& line, Console& console) {
   const ConfigureRuleElementType kind = kindNamed(line.required("kind"));
   const std::string name =
       scenario->getName() + "-rule-" + MachineLearningVocabulary::of(kind).getName();
-  for (const auto& other : project.scenarios()) {
-    if (other->getName() == name) {
-      throw UsageError(tr("the project already has a scenario named \"{1}\"", {name}));
-    }
-  }
+  project.requireFreeName(name);
   if (line.has("entries") && line.has("best-entries")) {
     throw UsageError(tr("options --entries and --best-entries exclude each other"));
   }
@@ -132,9 +127,7 @@ int DeriveRulesCommand::run(const CommandLine& line, Console& console) {
         *made, MachineLearningAlgorithmValidatorType::kFoldCrossValidation, kTrainPercent,
         static_cast<uint32_t>(line.number("best-entries", 1, 1)));
   }
-  const auto& sceneries = ScenarioManager::getInstance().getSceneries();
-  ScenarioManager::getInstance().addScenery(sceneries.empty() ? 0 : sceneries.rbegin()->first + 1,
-                                            made);
+  project.adopt(made);
   OptimisationRun::storeOutput(project, tr("scenario {1}", {name}));
   console.out << tr("{1}: made from the stored run of \"{2}\" and saved",
                     {name, scenario->getName()})

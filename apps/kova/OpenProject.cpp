@@ -8,6 +8,7 @@
 
 #include "ErrorText.h"
 #include "HostText.h"
+#include "UsageError.h"
 #include "common/PeriodWalker.h"
 #include "core/Scenario.h"
 #include "managers/ProjectFunctions.h"
@@ -130,6 +131,21 @@ unsigned int OpenProject::indexOf(const std::shared_ptr<Scenario>& scenario) con
     if (all[i] == scenario) return i;
   }
   throw std::logic_error("OpenProject::indexOf(): scenario not in the project");
+}
+
+void OpenProject::requireFreeName(const std::string& name) const {
+  for (const auto& scenario : all) {
+    if (scenario->getName() == name) {
+      throw UsageError(tr("the project already has a scenario named \"{1}\"", {name}));
+    }
+  }
+}
+
+void OpenProject::adopt(const std::shared_ptr<Scenario>& scenario) {
+  auto& manager = ScenarioManager::getInstance();
+  const auto& sceneries = manager.getSceneries();
+  manager.addScenery(sceneries.empty() ? 0 : sceneries.rbegin()->first + 1, scenario);
+  all.push_back(scenario);
 }
 
 void OpenProject::loadLatestResults(const std::shared_ptr<Scenario>& scenario) const {

@@ -34,6 +34,10 @@ class OpenProject {
   std::vector<std::shared_ptr<Scenario>> select(const std::vector<std::string>& names) const;
   // The index of scenario in the ScenarioManager.
   unsigned int indexOf(const std::shared_ptr<Scenario>& scenario) const;
+  // Throws UsageError "the project already has a scenario named <name>" when name is taken.
+  void requireFreeName(const std::string& name) const;
+  // Makes a new scenario one of the project's, after every present one.
+  void adopt(const std::shared_ptr<Scenario>& scenario);
   // Gives scenario the results of its latest stored run. Throws std::runtime_error when it has
   // none.
   void loadLatestResults(const std::shared_ptr<Scenario>& scenario) const;

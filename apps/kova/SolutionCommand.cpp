@@ -12,17 +12,6 @@
 #include "optimization/RuleOptimizationScenario.h"
 #include "optimization/SystemGuaranteeCurveScenario.h"
 #include "scenario/RuleScenario.h"
-#include "scenario/ScenarioManager.h"
-
-namespace {
-
-// The index under which the manager keeps a new scenario: after every present one.
-unsigned int nextIndex() {
-  const auto& sceneries = ScenarioManager::getInstance().getSceneries();
-  return sceneries.empty() ? 0 : sceneries.rbegin()->first + 1;
-}
-
-}  // namespace
 
 Command SolutionCommand::describe() {
   return {"solution",
@@ -58,11 +47,7 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
         (rows ? tr(", rows 0 to {1}", {std::to_string(rows - 1)}) : std::string()));
   }
   const std::string name = scenario->getName() + (curve ? "-GUA-" : "-SOL-") + std::to_string(row);
-  for (const auto& other : project.scenarios()) {
-    if (other->getName() == name) {
-      throw UsageError(tr("the project already has a scenario named \"{1}\"", {name}));
-    }
-  }
+  project.requireFreeName(name);
   const auto goOn = [](long, long) { return !Interrupt::requested(); };
   const auto index = static_cast<unsigned int>(row);
   const auto made =
@@ -70,7 +55,7 @@ int SolutionCommand::run(const CommandLine& line, Console& console) {
             : AutomatedScenarioBuilder::makeRuleScenarioFromOptimization(
                   FrontTable::optimisationOf(*scenario), index, goOn);
   if (!made) return exitCancelled;
-  ScenarioManager::getInstance().addScenery(nextIndex(), made);
+  project.adopt(made);
   OptimisationRun::storeOutput(project, tr("scenario {1}", {name}));
   console.out << tr("{1}: made from row {2} of \"{3}\" and saved",
                     {name, std::to_string(row), scenario->getName()})

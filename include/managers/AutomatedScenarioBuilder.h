@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "vocabulary/EnumTypes.h"
+
 class GuaranteeCurveScenario;
 class KOVACoreProgressBar;
 class PriorityScenario;
@@ -11,7 +13,8 @@ class RuleOptimizationScenario;
 class RuleScenario;
 class Scenario;
 
-// Builds ordinary rule scenarios out of the results of other kinds of run.
+// Builds new scenarios of a project out of others: rule scenarios out of the results of other
+// kinds of run, and a scenario of any kind out of one of another kind.
 class AutomatedScenarioBuilder {
  public:
   using Progress = std::function<bool(long, long)>;
@@ -39,6 +42,13 @@ class AutomatedScenarioBuilder {
   // the open project database. Null when progress cancelled it (one step per element and three).
   static std::shared_ptr<RuleScenario> makeRuleScenarioFromPriority(
       const PriorityScenario& scenario, const Progress& progress);
+  // The scenario of kind `to` that source becomes (see SceneryKindTransformation), named name. It
+  // is stored in the open project database. Throws std::invalid_argument as
+  // SceneryTransformationFactory::make for a source already of kind `to`; null when progress
+  // cancelled it (three steps).
+  static std::shared_ptr<Scenario> makeScenarioOfKind(const Scenario& source, ScenarioType to,
+                                                      const std::string& name,
+                                                      const Progress& progress);
   // Replaces every optimisable reservoir rule of scenario by the simulation rule it stands for.
   static void convertOptRuleReleaseToRuleRelease(Scenario& scenario);
 
@@ -46,10 +56,6 @@ class AutomatedScenarioBuilder {
   // A continuous rule scenario with source's network and interval, named source's name + suffix.
   static std::shared_ptr<RuleScenario> continuousCopy(const Scenario& source,
                                                       const std::string& suffix);
-  // Gives scenario, copied from a scenario of another kind, the fresh settings of a rule
-  // scenario: no rules yet, and allocation matrices of one line of zeros.
-  static void withRuleSettings(RuleScenario& scenario);
-  // Stores scenario in the open project database; null when bar is cancelled.
-  static std::shared_ptr<RuleScenario> store(const std::shared_ptr<RuleScenario>& scenario,
-                                             KOVACoreProgressBar& bar);
+  // Stores scenario in the open project database; false when bar is cancelled.
+  static bool store(const std::shared_ptr<Scenario>& scenario, KOVACoreProgressBar& bar);
 };

@@ -13,7 +13,8 @@ class Node;
 // then what has a meaning on both sides is carried over:
 // - into a priority scenario: the execution method of a rule or priority run (the continuous
 //   method otherwise) and zeroContribution; every element gets the priority settings a new
-//   element gets (the goals are the demands' and reservoirs' own series);
+//   element gets (the goals are the demands' and reservoirs' own series; an empty target volume
+//   asks for a full reservoir);
 // - out of a priority scenario: each reservoir releases, constantly, the mean of its releases in
 //   the priority run, and each node shares its outflow as its links carried it in that run
 //   (window 0). A source without results is run first, as a copy;

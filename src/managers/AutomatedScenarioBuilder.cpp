@@ -12,6 +12,7 @@
 #include "optimization/GuaranteeCurveScenario.h"
 #include "optimization/OptimizationUtils.h"
 #include "optimization/RuleOptimizationScenario.h"
+#include "optimization/SceneryTransformationFactory.h"
 #include "project/database/DatabaseInsert.h"
 #include "project/database/DatabaseSceneryCopy.h"
 #include "rules/ConstReleaseRule.h"
@@ -23,6 +24,7 @@ namespace {
 
 constexpr unsigned int kSteps = 5;
 constexpr unsigned int kCurveSteps = 4;
+constexpr unsigned int kConversionSteps = 3;
 
 }  // namespace
 
@@ -45,7 +47,7 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromOpti
   if (!bar.update()) return nullptr;
   convertOptRuleReleaseToRuleRelease(*scenario);
   if (!bar.update()) return nullptr;
-  return store(scenario, bar);
+  return store(scenario, bar) ? scenario : nullptr;
 }
 
 std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromGuaranteeCurve(
@@ -67,7 +69,7 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromGuar
         ->setRule(rule);
   }
   if (!bar.update()) return nullptr;
-  return store(scenario, bar);
+  return store(scenario, bar) ? scenario : nullptr;
 }
 
 std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromPriority(
@@ -75,7 +77,7 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromPrio
   const auto& kind = source.getConfigureRuleElementFromPriorityAddon()->getType();
   KOVACoreProgressBar bar(0, static_cast<long>(source.getElements().size()) + 3, progress);
   auto scenario = continuousCopy(source, "-rule-" + kind.getName());
-  withRuleSettings(*scenario);
+  scenario->remakeSettings();
   if (!bar.update()) return nullptr;
   if (!store(scenario, bar)) return nullptr;
   for (const auto& element : source.getElements()) {
@@ -88,21 +90,6 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::makeRuleScenarioFromPrio
   return scenario;
 }
 
-void AutomatedScenarioBuilder::withRuleSettings(RuleScenario& scenario) {
-  auto& settings = scenario.getSettingsManager();
-  settings = SettingsManager();
-  for (const auto& element : scenario.getElements()) {
-    settings.make(element->getId(), scenario.getScenarioType(), element->getElementType());
-  }
-  for (const bool links : {false, true}) {
-    for (const auto& element : scenario.getElements()) {
-      if (ElementSets::links().count(element->getType()) == (links ? 1u : 0u)) {
-        scenario.posAddElement(element, false);
-      }
-    }
-  }
-}
-
 std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::continuousCopy(const Scenario& source,
                                                                        const std::string& suffix) {
   auto scenario = std::make_shared<RuleScenario>(std::make_shared<ExecutionContinuous>(),
@@ -113,13 +100,25 @@ std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::continuousCopy(const Sce
   return scenario;
 }
 
-std::shared_ptr<RuleScenario> AutomatedScenarioBuilder::store(
-    const std::shared_ptr<RuleScenario>& scenario, KOVACoreProgressBar& bar) {
+bool AutomatedScenarioBuilder::store(const std::shared_ptr<Scenario>& scenario,
+                                     KOVACoreProgressBar& bar) {
   DatabaseInsert::insertSceneryEntryInDatabase(*scenario);
+  if (!bar.update()) return false;
+  return DatabaseSceneryCopy::sceneryCopy(scenario, nullptr) && bar.update();
+}
+
+std::shared_ptr<Scenario> AutomatedScenarioBuilder::makeScenarioOfKind(const Scenario& source,
+                                                                       ScenarioType to,
+                                                                       const std::string& name,
+                                                                       const Progress& progress) {
+  const auto transformation = SceneryTransformationFactory::make(
+      static_cast<int>(source.getScenarioType().getType()), static_cast<int>(to));
+  KOVACoreProgressBar bar(0, kConversionSteps, progress);
+  auto scenario =
+      transformation->transform(source, ScenarioManager::getInstance().getNextScenarioId());
+  scenario->setName(name);
   if (!bar.update()) return nullptr;
-  if (!DatabaseSceneryCopy::sceneryCopy(scenario, nullptr)) return nullptr;
-  if (!bar.update()) return nullptr;
-  return scenario;
+  return store(scenario, bar) ? scenario : nullptr;
 }
 
 void AutomatedScenarioBuilder::convertOptRuleReleaseToRuleRelease(Scenario& scenario) {

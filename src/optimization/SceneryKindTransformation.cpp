@@ -12,6 +12,7 @@
 #include "core/ElementsFilter.h"
 #include "core/Link.h"
 #include "core/Node.h"
+#include "core/PriorityReservoirSettings.h"
 #include "core/ReservoirGuaranteeCurveSettings.h"
 #include "operation/ExecutionContinuous.h"
 #include "optimization/GuaranteeCurveScenario.h"
@@ -151,6 +152,20 @@ void settingsFromPriorityRun(const Scenario& source, Scenario& target) {
   }
 }
 
+// A reservoir's target volume is a goal of a priority run that rules never read: where the
+// source left it empty, the reservoir asks to be full, as a new state of a priority scenario does.
+void giveTargetVolumes(Scenario& target) {
+  for (const auto& reservoir : reservoirsOf(target)) {
+    const double full =
+        Scenario::getSettings<PriorityReservoirSettings>(reservoir, target.getSettingsManager())
+            ->getDefaultSerieValue();
+    auto& goal = *reservoir->getInputSerie(SerieType::targetVolume);
+    PeriodWalker::forEach(target.getInterval(), [&](const Date& date) {
+      if (NumericalUtils::isEmpty(goal.getValue(date))) goal.setValue(date, full);
+    });
+  }
+}
+
 // The reservoirs' settings become those of the target's kind, with the same allocation and rule;
 // the other elements' settings are the same in every rule kind.
 void retypeReservoirSettings(Scenario& target) {
@@ -257,6 +272,7 @@ std::shared_ptr<Scenario> SceneryKindTransformation::transform(const Scenario& s
   source.copyNetworkInto(*target);
   if (isPriority(to)) {
     target->remakeSettings();
+    giveTargetVolumes(*target);
   } else {
     if (isPriority(from)) {
       settingsFromPriorityRun(source, *target);

@@ -177,6 +177,20 @@ TEST(SceneryTransformation, RulesToPrioritiesAndBackKeepTheNetworkAndItsSeries) 
   expectSameNetwork(river.net.scenario, priorities);
   expectSameNetwork(river.net.scenario, rules);
   EXPECT_EQ(rules->getInterval(), river.net.scenario->getInterval());
+
+  // A rule run does not read target volumes; where they are missing, priorities keep full.
+  river.upper->getInputSerie(SerieType::targetVolume)->fill(-999.0);
+  const auto filled = convert(*river.net.scenario, ScenarioType::priorityOptimizer);
+  const Date june(2002, 6, 1);
+  EXPECT_EQ(filled->getElement(river.upper->getId())
+                ->getInputSerie(SerieType::targetVolume)
+                ->getValue(june),
+            1.0);
+  EXPECT_EQ(filled->getElement(river.lower->getId())
+                ->getInputSerie(SerieType::targetVolume)
+                ->getValue(june),
+            0.8);
+  EXPECT_TRUE(filled->run(nullptr)) << findings(*filled);
 }
 
 TEST(SceneryTransformation, APriorityRunBecomesConstantReleasesAndTheSharesItsLinksCarried) {

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <map>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -39,12 +40,6 @@ SAHooks quietHooks() {
   SASetupDefaultHooks(&hooks);
   hooks.Error = [](const char*) {};
   return hooks;
-}
-
-std::string lowered(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return text;
 }
 
 std::string raised(std::string text) {
@@ -112,18 +107,19 @@ CoordinateSystem coordinateSystemOf(const fs::path& shp,
   return CoordinateSystem::fromPrjFile(prj);
 }
 
+// Whether text is well-formed UTF-8 as far as its lead and continuation bytes go.
 bool isUtf8(const std::string& text) {
   std::size_t following = 0;
   for (const unsigned char c : text) {
     if (following > 0) {
       if ((c & 0xC0) != 0x80) return false;
       --following;
+    } else if (c >= 0xC2 && c <= 0xDF) {
+      following = 1;
+    } else if (c >= 0xE0 && c <= 0xEF) {
+      following = 2;
     } else if (c >= 0xF0 && c <= 0xF4) {
       following = 3;
-    } else if (c >= 0xE0) {
-      following = 2;
-    } else if (c >= 0xC2 && c < 0xE0) {
-      following = 1;
     } else if (c >= 0x80) {
       return false;
     }
@@ -131,6 +127,8 @@ bool isUtf8(const std::string& text) {
   return following == 0;
 }
 
+// text as UTF-8: as it is when it is UTF-8 already, otherwise each byte as the Latin-1 character
+// of that number.
 std::string utf8(const std::string& text) {
   if (isUtf8(text)) return text;
   std::string converted;
@@ -155,12 +153,16 @@ std::vector<std::string> columnsOf(DBFInfo* table) {
   return columns;
 }
 
-std::vector<std::string> valuesOf(DBFInfo* table, int record) {
+std::vector<std::string> valuesOf(const fs::path& dbf, DBFInfo* table, int record) {
   std::vector<std::string> values;
   for (int field = 0; field < DBFGetFieldCount(table); ++field) {
-    values.push_back(DBFIsAttributeNULL(table, record, field)
-                         ? ""
-                         : utf8(DBFReadStringAttribute(table, record, field)));
+    if (DBFIsAttributeNULL(table, record, field)) {
+      values.emplace_back();
+      continue;
+    }
+    const char* value = DBFReadStringAttribute(table, record, field);
+    if (!value) fail(dbf, "record " + std::to_string(record) + " cannot be read (damaged file)");
+    values.push_back(utf8(value));
   }
   return values;
 }
@@ -199,7 +201,8 @@ ShapeLayer::Feature featureOf(const fs::path& shp, SHPInfo* shapes, int layerTyp
 
 ShapeLayer ShapeFileReader::read(const fs::path& shp,
                                  const std::optional<CoordinateSystem>& coordinateSystem) {
-  if (lowered(shp.extension().string()) != ".shp") fail(shp, "not a .shp file");
+  // In lower or upper case, as shapelib spells the extensions it looks for.
+  if (shp.extension() != ".shp" && shp.extension() != ".SHP") fail(shp, "not a .shp file");
   std::error_code error;
   if (!fs::is_regular_file(shp, error)) fail(shp, "no such file");
   requireShapefileHeader(shp);
@@ -224,7 +227,7 @@ ShapeLayer ShapeFileReader::read(const fs::path& shp,
   ShapeLayer layer(shp, kind, std::move(system), columnsOf(table.get()));
   for (int index = 0; index < count; ++index) {
     ShapeLayer::Feature feature = featureOf(shp, shapes.get(), type, index);
-    feature.values = valuesOf(table.get(), index);
+    feature.values = valuesOf(dbf, table.get(), index);
     layer.addFeature(std::move(feature));
   }
   return layer;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 
 #include "core/Node.h"
@@ -31,7 +32,9 @@ std::shared_ptr<RuleScenario> threeNodes() {
 }
 
 Point2D positionOf(const Scenario& scenario, const std::string& name) {
-  return std::static_pointer_cast<Node>(scenario.getElement(name))->getPosition();
+  const auto node = std::dynamic_pointer_cast<Node>(scenario.getElement(name));
+  EXPECT_TRUE(node) << "no node named " << name;
+  return node ? node->getPosition() : Point2D{std::nan(""), std::nan("")};
 }
 
 }  // namespace

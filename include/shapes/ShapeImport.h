@@ -35,8 +35,8 @@ class ShapeImport {
   // or without a name are skipped. Nothing moves when it throws: std::invalid_argument
   // "ShapeImport::placeNodes(): <file> is a <kind> layer, not a point layer"; std::runtime_error
   // "<file>: no column ..." when a layer lacks the column, "<file>: \"<name>\" names two points
-  // (features i and j)" (also across two layers), or the converter's failure for a point outside
-  // its layer's system.
+  // (<file> feature i and <file> feature j)" (also across two layers), "<file> feature i: " and
+  // the converter's failure for a point outside its layer's system.
   static Placement placeNodes(Scenario& scenario, const std::vector<ShapeLayer>& pointLayers,
                               const std::string& nameColumn);
 };

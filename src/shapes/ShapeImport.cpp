@@ -26,6 +26,17 @@ bool keepable(const std::string& path) {
                       [](unsigned char c) { return c == '"' || c == '\\' || c < 0x20; });
 }
 
+// point in the scenario's system; a failure names the feature.
+Point2D converted(const std::optional<CoordinateConverter>& converter, const Point2D& point,
+                  const std::string& where) {
+  if (!converter) return point;
+  try {
+    return converter->forward(point);
+  } catch (const std::runtime_error& error) {
+    throw std::runtime_error(where + ": " + error.what());
+  }
+}
+
 // The named points of one layer, converted into target, added to found.
 void collect(const ShapeLayer& layer, const std::string& nameColumn, const CoordinateSystem& target,
              std::map<std::string, Found>& found, std::vector<std::string>& order) {
@@ -45,7 +56,7 @@ void collect(const ShapeLayer& layer, const std::string& nameColumn, const Coord
     const Point2D point = feature.parts.front().front();
     const std::string where = layer.getFile().string() + " feature " + std::to_string(index);
     const auto [entry, added] =
-        found.emplace(name, Found{converter ? converter->forward(point) : point, where});
+        found.emplace(name, Found{converted(converter, point, where), where});
     if (!added) {
       throw std::runtime_error(layer.getFile().string() + ": \"" + name + "\" names two points (" +
                                entry->second.where + " and " + where + ")");

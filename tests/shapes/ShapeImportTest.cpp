@@ -130,6 +130,15 @@ TEST(ShapeImport, NothingMovesWhenTheLayersCannotPlaceTheNodes) {
   EXPECT_THROW_TEXT(ShapeImport::placeNodes(*scenario, {a, river}, "NOME"), std::invalid_argument,
                     "ShapeImport::placeNodes(): " + folder.file("rio.shp") +
                         " is a line layer, not a point layer");
+  shapefiles::writeNamedPoints(folder.file("far"), {{"Xingó", {1e9, 8e6}}},
+                               shapefiles::kEsriSirgas2000Utm24S);
+  EXPECT_THROW_TEXT(
+      ShapeImport::placeNodes(*scenario, {a, ShapeFileReader::read(folder.file("far.shp"))},
+                              "NOME"),
+      std::runtime_error,
+      folder.file("far.shp") +
+          " feature 0: CoordinateConverter: (1000000000, 8000000) cannot be converted from "
+          "EPSG:31984 (SIRGAS 2000 / UTM zone 24S) to EPSG:4674 (SIRGAS 2000)");
   EXPECT_THROW_TEXT(ShapeImport::placeNodes(*scenario, {a}, "NAME"), std::runtime_error,
                     folder.file("a.shp") + ": no column \"NAME\" (columns: NOME)");
   for (const char* name : {"Sobradinho", "Itaparica", "Xingó"}) {

@@ -1,7 +1,6 @@
 #include "ImportShapesCommand.h"
 
 #include <iomanip>
-#include <map>
 #include <optional>
 #include <sstream>
 #include <stdexcept>
@@ -40,13 +39,6 @@ std::vector<ShapeLayer> readLayers(const CommandLine& line) {
   return layers;
 }
 
-std::string kindText(ShapeLayer::Kind kind) {
-  using K = ShapeLayer::Kind;
-  static const std::map<ShapeLayer::Kind, const char*> texts{
-      {K::point, "point layer"}, {K::line, "line layer"}, {K::polygon, "polygon layer"}};
-  return tr(texts.at(kind));
-}
-
 std::string joined(const std::vector<std::string>& names) {
   std::string text;
   for (const auto& name : names) text += (text.empty() ? "" : ", ") + name;
@@ -59,15 +51,20 @@ std::string position(const Node& node) {
   return text.str();
 }
 
-void placeNodes(Scenario& scenario, const std::vector<ShapeLayer>& layers,
-                const std::string& column, Console& console) {
+ShapeImport::Placement placeNodes(Scenario& scenario, const std::vector<ShapeLayer>& layers,
+                                  const std::string& column) {
   std::vector<ShapeLayer> points;
   for (const auto& layer : layers) {
     if (layer.getKind() == ShapeLayer::Kind::point) points.push_back(layer);
   }
-  if (points.empty())
+  if (points.empty()) {
     throw UsageError(tr("option --name-field: none of the files is a point layer"));
-  const auto placement = ShapeImport::placeNodes(scenario, points, column);
+  }
+  return ShapeImport::placeNodes(scenario, points, column);
+}
+
+void printPlacement(const Scenario& scenario, const ShapeImport::Placement& placement,
+                    Console& console) {
   for (const auto& name : placement.placed) {
     const auto node = std::dynamic_pointer_cast<Node>(scenario.getElement(name));
     console.out << tr("{1}: placed at {2}", {name, position(*node)}) << '\n';
@@ -100,19 +97,26 @@ int ImportShapesCommand::run(const CommandLine& line, Console& console) {
   OpenProject project(line.positional(0), nullptr, OpenProject::Access::readWrite);
   const auto scenario = project.scenario(line.required("scenario"));
   const std::vector<ShapeLayer> layers = readLayers(line);
-  if (line.has("name-field")) placeNodes(*scenario, layers, line.required("name-field"), console);
-  for (const auto& layer : layers) {
-    const bool attached = ShapeImport::attach(*scenario, layer);
-    console.out << tr("{1}: {2}, {3} feature(s), {4}; {5}",
-                      {layer.getFile().string(), kindText(layer.getKind()),
-                       std::to_string(layer.getFeatures().size()),
-                       layer.getCoordinateSystem().describe(),
-                       attached ? tr("attached") : tr("already attached")})
-                << '\n';
-  }
+  std::vector<bool> attached;
+  for (const auto& layer : layers) attached.push_back(ShapeImport::attach(*scenario, layer));
+  const bool placing = line.has("name-field");
+  const auto placement = placing ? placeNodes(*scenario, layers, line.required("name-field"))
+                                 : ShapeImport::Placement{};
   if (!SaveProject::save(project.path().string(), nullptr)) {
     throw std::runtime_error(
         tr("{1}: could not be written; nothing was changed", {project.path().string()}));
+  }
+
+  if (placing) printPlacement(*scenario, placement, console);
+  for (std::size_t i = 0; i < layers.size(); ++i) {
+    const auto& layer = layers[i];
+    console.out << tr("{1}: {2}, {3} feature(s), {4}; {5}",
+                      {layer.getFile().string(),
+                       tr(ShapeLayer::kindName(layer.getKind()) + " layer"),
+                       std::to_string(layer.getFeatures().size()),
+                       layer.getCoordinateSystem().describe(),
+                       attached[i] ? tr("attached") : tr("already attached")})
+                << '\n';
   }
   console.unlessQuiet(console.out)
       << tr("scenario \"{1}\" saved in {2}", {scenario->getName(), project.path().string()})

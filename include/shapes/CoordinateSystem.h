@@ -9,9 +9,10 @@
 // texts of a .prj, "GCS_SIRGAS_2000" and "SIRGAS 2000") compare equal.
 //
 // A .prj is recognised by PROJ: it reads the text in either dialect and identifies it against the
-// register. Only an identification that PROJ rates as equivalent (90 % or more) is taken; a
-// description that merely resembles a registered system (the same projection with other
-// parameters) is refused rather than guessed.
+// register. Only a system that PROJ finds equivalent (the same datum and projection, whatever
+// its name) is taken, and only when it is the one best match; a description that merely
+// resembles registered systems (a projection with other parameters, an unnamed datum on a known
+// ellipsoid) is refused rather than guessed.
 class CoordinateSystem {
  public:
   // The system with that EPSG code. Throws std::invalid_argument

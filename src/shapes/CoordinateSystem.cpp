@@ -8,9 +8,11 @@
 
 namespace {
 
-// PROJ rates an identification 100 when the systems are the same, 90 when only names differ
-// (an ESRI text against the register's names); 70 and below mean another system.
-constexpr int kEquivalent = 90;
+// PROJ rates an identification 100 when the systems and their names are the same, 90 when the
+// names differ in form (an ESRI text against the register's names) and 70 when a system has a
+// name of its own but the same datum and projection; below that only the names or the ellipsoid
+// resemble, which says nothing of the datum.
+constexpr int kEquivalent = 70;
 
 std::string nameOf(const PJ* crs) {
   const char* name = proj_get_name(crs);
@@ -29,13 +31,15 @@ ProjObject withoutDatumShift(PJ_CONTEXT* context, ProjObject crs) {
   return ProjObject(proj_get_source_crs(context, crs.get()));
 }
 
-// The EPSG code of the register's system equivalent to crs; 0 when there is none.
+// The EPSG code of the register's system equivalent to crs; 0 when there is none, or when two
+// are equally so.
 unsigned int identify(PJ_CONTEXT* context, const PJ* crs) {
   int* confidence = nullptr;
   const ProjList matches(proj_identify(context, crs, "EPSG", nullptr, &confidence));
+  const int count = matches ? proj_list_get_count(matches.get()) : 0;
   unsigned int code = 0;
   // The matches come best first.
-  if (matches && proj_list_get_count(matches.get()) > 0 && confidence[0] >= kEquivalent) {
+  if (count > 0 && confidence[0] >= kEquivalent && (count == 1 || confidence[1] < confidence[0])) {
     const ProjObject best(proj_list_get(context, matches.get(), 0));
     const char* id = proj_get_id_code(best.get(), 0);
     if (id) code = static_cast<unsigned int>(std::stoul(id));

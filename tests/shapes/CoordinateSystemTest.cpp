@@ -30,6 +30,8 @@ TEST(CoordinateSystem, EachKindOfPrjIsRecognisedAsItsEpsgSystem) {
        false},
       {"OGC, SIRGAS 2000 UTM south", kOgcSirgas2000Utm23S, 31983, "SIRGAS 2000 / UTM zone 23S",
        false},
+      {"ESRI, UTM under a name of its own", kEsriNamedUtm23S, 32723, "WGS 84 / UTM zone 23S",
+       false},
   };
   TemporaryFolder folder("kova_crs_");
   for (const auto& row : table) {
@@ -50,6 +52,12 @@ TEST(CoordinateSystem, ATextNotRecognisedIsRefusedNamingItsFile) {
   EXPECT_THROW_TEXT(
       CoordinateSystem::fromPrjFile(prj), std::runtime_error,
       prj + ": coordinate system \"Local_TM\" not recognised (no equivalent in the EPSG register)");
+
+  writeFile(prj, shapefiles::kEsriUnknownDatum);
+  EXPECT_THROW_TEXT(CoordinateSystem::fromPrjFile(prj), std::runtime_error,
+                    prj +
+                        ": coordinate system \"GCS_Qualquer\" not recognised (no equivalent in "
+                        "the EPSG register)");
 
   writeFile(prj, "+proj=utm +zone=23 +south");
   EXPECT_THROW_TEXT(CoordinateSystem::fromPrjFile(prj), std::runtime_error,

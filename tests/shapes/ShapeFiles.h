@@ -117,6 +117,19 @@ const char* const kOgcSirgas2000Utm23S =
     "PARAMETER[\"central_meridian\",-45],PARAMETER[\"scale_factor\",0.9996],"
     "PARAMETER[\"false_easting\",500000],PARAMETER[\"false_northing\",10000000],"
     "UNIT[\"metre\",1]]";
+// UTM zone 23 S on WGS 84 under a name of the user's.
+const char* const kEsriNamedUtm23S =
+    "PROJCS[\"Minha_Projecao\",GEOGCS[\"GCS_WGS_1984\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\","
+    "6378137.0,298.257223563]],PRIMEM[\"Greenwich\",0.0],UNIT[\"Degree\",0.0174532925199433]],"
+    "PROJECTION[\"Transverse_Mercator\"],PARAMETER[\"False_Easting\",500000.0],"
+    "PARAMETER[\"False_Northing\",10000000.0],PARAMETER[\"Central_Meridian\",-45.0],"
+    "PARAMETER[\"Scale_Factor\",0.9996],PARAMETER[\"Latitude_Of_Origin\",0.0],"
+    "UNIT[\"Meter\",1.0]]";
+// A geographic system on the GRS 1980 ellipsoid with a datum of no name: SIRGAS 2000 and a
+// hundred others share that ellipsoid.
+const char* const kEsriUnknownDatum =
+    "GEOGCS[\"GCS_Qualquer\",DATUM[\"D_Qualquer\",SPHEROID[\"GRS_1980\",6378137.0,"
+    "298.257222101]],PRIMEM[\"Greenwich\",0.0],UNIT[\"Degree\",0.0174532925199433]]";
 // A transverse Mercator of a local survey: the register has none like it.
 const char* const kEsriLocalTransverseMercator =
     "PROJCS[\"Local_TM\",GEOGCS[\"GCS_WGS_1984\",DATUM[\"D_WGS_1984\",SPHEROID[\"WGS_1984\","

@@ -25,9 +25,8 @@ class InputSeriesCopy {
  public:
   // Why a source element gave nothing to its namesake.
   enum class Skip {
-    otherKind,  // the namesake is of another category
-    noValues,   // the element has a kind asked, but holds no value in any of them
-    notAsked,   // the element has none of the kinds asked
+    otherKind,      // the namesake is of another category
+    nothingToCopy,  // none of the kinds asked holds a value in the element (or it has none)
   };
 
   struct Copied {

@@ -1,6 +1,5 @@
 #include "managers/InputSeriesCopy.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include "core/Element.h"
@@ -65,11 +64,8 @@ InputSeriesCopy::Outcome InputSeriesCopy::copy(const Scenario& source, Scenario&
     }
     const auto chosen = kindsToCopy(*from);
     if (chosen.empty()) {
-      const auto& held = from->getInputSeries()->getSeries();
-      const bool hasAsked = std::any_of(held.begin(), held.end(),
-                                        [&](const auto& entry) { return isAsked(entry.first); });
-      outcome.skipped.push_back({from->getName(), hasAsked ? Skip::noValues : Skip::notAsked,
-                                 from->getType(), to->getType()});
+      outcome.skipped.push_back(
+          {from->getName(), Skip::nothingToCopy, from->getType(), to->getType()});
       continue;
     }
     for (const SerieType kind : chosen) {

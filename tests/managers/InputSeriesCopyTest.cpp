@@ -140,14 +140,14 @@ TEST(InputSeriesCopy, OnlyTheKindsAskedAreCopiedAndTheOthersSaySo) {
   ASSERT_EQ(outcome.skipped.size(), 2u);
   EXPECT_EQ(outcome.skipped[0].why, Skip::otherKind);
   EXPECT_EQ(outcome.skipped[1].element, "Canal");
-  EXPECT_EQ(outcome.skipped[1].why, Skip::notAsked);
+  EXPECT_EQ(outcome.skipped[1].why, Skip::nothingToCopy);
 
   const auto flowOnly = InputSeriesCopy({S::naturalIncrementalFlow})
                             .copy(*source.network.scenario, *target.network.scenario);
   EXPECT_EQ(namesOf(flowOnly.copied), std::vector<std::string>{"Lago"});
   ASSERT_EQ(flowOnly.skipped.size(), 3u);
   EXPECT_EQ(flowOnly.skipped[0].element, "Cidade");
-  EXPECT_EQ(flowOnly.skipped[0].why, Skip::noValues);
+  EXPECT_EQ(flowOnly.skipped[0].why, Skip::nothingToCopy);
 }
 
 TEST(InputSeriesCopy, KindsAreNamedByNameOrNumberAmongTheInputKindsOnly) {

@@ -58,7 +58,7 @@ class InputSeriesCopy {
 
   // The input kind that text names, by its name ("Precipitação") or its number ("0"); none when
   // it names no input kind. "Perda em trânsito" is the input percentage, not the result flow.
-  static std::optional<SerieType> inputKindNamed(const std::string& text);
+  [[nodiscard]] static std::optional<SerieType> inputKindNamed(const std::string& text);
 
  private:
   // The kinds of element to copy: those asked that it has and whose source series holds values.

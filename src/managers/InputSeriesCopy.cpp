@@ -1,6 +1,7 @@
 #include "managers/InputSeriesCopy.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "core/Element.h"
 #include "core/ElementSets.h"

@@ -46,11 +46,10 @@ TEST(KovaConvert, RulesToPrioritiesAndBackAreSavedWithTheSameInputsAndRun) {
   ASSERT_EQ(info.status, exitOk) << info.err;
   EXPECT_NE(info.out.find(priorities), std::string::npos) << info.out;
   EXPECT_NE(info.out.find("De volta"), std::string::npos) << info.out;
-  for (const std::string& scenario : {priorities, std::string("De volta")}) {
+  for (const std::string& scenario : {kRules, priorities, std::string("De volta")}) {
     EXPECT_EQ(kova({"run", project, "--scenario", scenario, "--quiet"}).status, exitOk) << scenario;
   }
-  // The natural inflow of a lake, an input, travels unchanged: the lines of the csv name the
-  // scenario's run only in their header.
+  // The natural inflow of a lake, an input, travels unchanged.
   const std::string inflow = seriesOf(project, kRules, "Sobradinho", "2");
   EXPECT_EQ(seriesOf(project, "De volta", "Sobradinho", "2"), inflow);
   EXPECT_EQ(seriesOf(project, priorities, "Sobradinho", "2"), inflow);

@@ -2,7 +2,8 @@
 
 #include "Command.h"
 
-// kova export: a scenario's results, inputs or curves as files.
+// kova export: a scenario's results, inputs or curves as files, or its network as a Graphviz
+// drawing or a KML map (a file that appears whole or not at all).
 class ExportCommand {
  public:
   static Command describe();

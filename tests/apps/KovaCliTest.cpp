@@ -272,9 +272,10 @@ TEST_F(KovaProject, ReportAndExportsWriteWhatTheyName) {
   EXPECT_EQ(
       kova({"export", "csv", project, "--scenario", "Regras", "--out", folder.file("out")}).status,
       exitUsage);  // nothing stored yet
-  EXPECT_EQ(kova({"export", "shapes", project, "--scenario", "Regras", "--out", "x"}).err,
-            "kova export: nothing to export named \"shapes\" (csv, inputs or cav); try 'kova "
-            "export --help'\n");
+  EXPECT_EQ(
+      kova({"export", "shapes", project, "--scenario", "Regras", "--out", "x"}).err,
+      "kova export: nothing to export named \"shapes\" (csv, inputs, cav, dot or kml); try 'kova "
+      "export --help'\n");
 }
 
 TEST_F(KovaProject, SaveAsCopiesTheProjectAndNeverOverwrites) {

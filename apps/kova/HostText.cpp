@@ -41,14 +41,56 @@ const std::unordered_map<std::string, std::string>& portuguese() {
        "{1}: o serviço web não tem tabela cota-área-volume"},
       {"{1}: level-area-volume table replaced by {2} row(s)",
        "{1}: tabela cota-área-volume substituída por {2} linha(s)"},
+      {"attach shapefile layers to a scenario and place its nodes from a point layer",
+       "anexa camadas shapefile a um cenário e posiciona seus nós por uma camada de pontos"},
+      {"option --layer-epsg: EPSG:{1} is not a geographic or projected coordinate system",
+       "opção --layer-epsg: EPSG:{1} não é um sistema de coordenadas geográfico ou projetado"},
+      {"option --name-field: none of the files is a point layer",
+       "opção --name-field: nenhum dos arquivos é uma camada de pontos"},
+      {"{1}: placed at {2}", "{1}: posicionado em {2}"},
+      {"nodes no point names, left where they were: {1}",
+       "nós que nenhum ponto nomeia, deixados onde estavam: {1}"},
+      {"names of points without a node, ignored: {1}", "nomes de pontos sem nó, ignorados: {1}"},
+      {"point layer", "camada de pontos"},
+      {"line layer", "camada de linhas"},
+      {"polygon layer", "camada de polígonos"},
+      {"{1}: {2}, {3} feature(s), {4}; {5}", "{1}: {2}, {3} feição(ões), {4}; {5}"},
+      {"attached", "anexada"},
+      {"already attached", "já anexada"},
+      {"{1}: could not be written; nothing was changed",
+       "{1}: não pôde ser escrito; nada foi alterado"},
+      {"scenario \"{1}\" saved in {2}", "cenário \"{1}\" gravado em {2}"},
+      {"copy input series between scenarios and projects",
+       "copia séries de entrada entre cenários e projetos"},
+      {"option --series: \"{1}\" is not an input series kind ({2})",
+       "opção --series: \"{1}\" não é um tipo de série de entrada ({2})"},
+      {"--from and --to name the same scenario \"{1}\"",
+       "--from e --to indicam o mesmo cenário \"{1}\""},
+      {"the project database has no series type \"{1}\" in {2}",
+       "o banco de dados do projeto não tem o tipo de série \"{1}\" em {2}"},
+      {"copied \"{1}\": {2}", "copiado \"{1}\": {2}"},
+      {"skipped \"{1}\": {2} in \"{3}\" but {4} in \"{5}\"",
+       "ignorado \"{1}\": {2} em \"{3}\", mas {4} em \"{5}\""},
+      {"not in scenario \"{1}\": {2}", "ausentes do cenário \"{1}\": {2}"},
+      {"{1} of {2} element(s) copied from \"{3}\" into \"{4}\": {5} of another kind, {6} "
+       "without a namesake, {7} with nothing to copy",
+       "{1} de {2} elemento(s) copiado(s) de \"{3}\" para \"{4}\": {5} de outro tipo, {6} sem "
+       "homônimo, {7} sem nada a copiar"},
+      {"warning: the stored results of scenario \"{1}\" were computed from its former inputs; "
+       "run it again",
+       "aviso: os resultados gravados do cenário \"{1}\" foram calculados com suas entradas "
+       "anteriores; execute-o de novo"},
       {"saving", "gravando"},
       {"demo cancelled; nothing was written", "demonstração cancelada; nada foi escrito"},
       {"demo project written to {1}", "projeto de demonstração escrito em {1}"},
       {"cannot make the output folder", "não foi possível criar a pasta de saída"},
-      {"write results, inputs or curves as files",
-       "escreve resultados, entradas ou curvas em arquivos"},
-      {"nothing to export named \"{1}\" (csv, inputs or cav)",
-       "nada a exportar com o nome \"{1}\" (csv, inputs ou cav)"},
+      {"write results, inputs, curves, the graph or the map as files",
+       "escreve resultados, entradas, curvas, o grafo ou o mapa em arquivos"},
+      {"nothing to export named \"{1}\" (csv, inputs, cav, dot or kml)",
+       "nada a exportar com o nome \"{1}\" (csv, inputs, cav, dot ou kml)"},
+      {"is a folder, not a file", "é uma pasta, não um arquivo"},
+      {"graph written to {1}", "grafo escrito em {1}"},
+      {"map written to {1}", "mapa escrito em {1}"},
       {"{1} file(s) written under {2}", "{1} arquivo(s) escrito(s) em {2}"},
       {"make a synthetic project of a chosen size",
        "cria um projeto sintético do tamanho escolhido"},
@@ -187,6 +229,19 @@ const std::unordered_map<std::string, std::string>& portuguese() {
       {"option --{1} needs a value", "a opção --{1} precisa de um valor"},
       {"option --{1} given twice", "a opção --{1} foi dada duas vezes"},
       {"option --{1} is required", "a opção --{1} é obrigatória"},
+      {"make a scenario of another kind from a scenario",
+       "cria um cenário de outro tipo a partir de um cenário"},
+      {"option --to: no kind named \"{1}\" (rule, priority, optimisation, guarantee or "
+       "system-guarantee)",
+       "opção --to: não há tipo chamado \"{1}\" (rule, priority, optimisation, guarantee ou "
+       "system-guarantee)"},
+      {"scenario \"{1}\" is already of kind {2}", "o cenário \"{1}\" já é do tipo {2}"},
+      {"scenario \"{1}\" has no stored run to read: it runs first, to give its releases and "
+       "shares",
+       "o cenário \"{1}\" não tem execução gravada para ler: é executado antes, para dar suas "
+       "liberações e repartições"},
+      {"{1}: made from \"{2}\" as a scenario of kind {3} and saved",
+       "{1}: criado a partir de \"{2}\" como cenário do tipo {3} e gravado"},
       {"option --{1}: \"{2}\" is not a whole number of at least {3}",
        "opção --{1}: \"{2}\" não é um número inteiro de pelo menos {3}"},
       {"unknown option {1}", "opção desconhecida {1}"},
@@ -332,13 +387,86 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "banco de dados do projeto; com --cav, a tabela cota-área-volume, que substitui a do\n"
         "reservatório. Mostra uma linha por série ou tabela. Código de saída 1 quando nada foi\n"
         "atualizado.\n"}},
+      {"import-shapes",
+       {"Reads each FILE.shp with its .shx index, its .dbf table and its .prj, whose coordinate\n"
+        "system must be one of the EPSG register: geographic (WGS 84, SIRGAS 2000...) or\n"
+        "projected (the UTM zones of both hemispheres...). --layer-epsg CODE gives the files'\n"
+        "system instead, for files without a .prj or with one that is not recognised. Every file\n"
+        "is read first: a missing, damaged or unrecognised file changes nothing.\n"
+        "Each file is attached to scenario NAME as a layer, by its absolute path, once.\n"
+        "--name-field FIELD places the nodes: a node whose name a point of a point layer has in\n"
+        "column FIELD moves to that point, converted into the scenario's coordinates (longitude\n"
+        "and latitude of SIRGAS 2000, EPSG:4674). Nodes that no point names stay where they were\n"
+        "and names without a node are ignored; both are listed. A name on two points is an error.\n"
+        "The project file is then saved; its database is not touched.\n",
+        "Lê cada FILE.shp com seu índice .shx, sua tabela .dbf e seu .prj, cujo sistema de\n"
+        "coordenadas deve ser um do registro EPSG: geográfico (WGS 84, SIRGAS 2000...) ou\n"
+        "projetado (as zonas UTM dos dois hemisférios...). --layer-epsg CODE dá em vez disso o\n"
+        "sistema dos arquivos, para arquivos sem .prj ou com um que não é reconhecido. Todos os\n"
+        "arquivos são lidos antes de qualquer mudança: um arquivo ausente, danificado ou não\n"
+        "reconhecido não muda nada. Cada arquivo é anexado ao cenário NAME como camada, por seu\n"
+        "caminho absoluto, uma só vez.\n"
+        "--name-field FIELD posiciona os nós: um nó cujo nome um ponto de uma camada de pontos\n"
+        "tem na coluna FIELD vai para esse ponto, convertido para as coordenadas do cenário\n"
+        "(longitude e latitude do SIRGAS 2000, EPSG:4674). Os nós que nenhum ponto nomeia ficam\n"
+        "onde estavam e os nomes sem nó são ignorados; ambos são listados. Um nome em dois pontos\n"
+        "é um erro. O arquivo do projeto é então gravado; seu banco de dados não é tocado.\n"}},
+      {"copy-series",
+       {"Copies the input series of the elements of scenario --from into the elements of the\n"
+        "same name in scenario --to: of the same project or, with --project, of project Q, into\n"
+        "which they go while P is only read. --series keeps the kinds of that name\n"
+        "(\"Precipitação\") or number (0), and may be repeated; the input kinds are\n"
+        "0 Precipitação, 1 Evaporação, 2 Vazão natural incremental, 3 Volume meta, 5 Demanda,\n"
+        "7 Perda em trânsito and 42 Limite de trecho. Without it, every kind that holds values.\n"
+        "A copied series replaces the target's values date for date and is stored in the\n"
+        "target's database. An element whose namesake is of another kind (a reservoir named like\n"
+        "a junction; demands of any use are one kind, and so are links) is skipped, and so is\n"
+        "one whose series of the kinds asked hold no value. The target's stored results are\n"
+        "kept, with a warning that they answer to its former inputs. Prints one line per element\n"
+        "copied or of another kind, the elements without a namesake, then a summary that counts\n"
+        "them and those with nothing to copy.\n"
+        "Exit status: 0 copied, 1 nothing copied, 2 usage or file error.\n",
+        "Copia as séries de entrada dos elementos do cenário --from para os elementos de mesmo\n"
+        "nome do cenário --to: do mesmo projeto ou, com --project, do projeto Q, para o qual vão\n"
+        "enquanto P é apenas lido. --series mantém os tipos daquele nome (\"Precipitação\") ou\n"
+        "número (0), e pode ser repetida; os tipos de entrada são 0 Precipitação, 1 Evaporação,\n"
+        "2 Vazão natural incremental, 3 Volume meta, 5 Demanda, 7 Perda em trânsito e 42 Limite\n"
+        "de trecho. Sem ela, todo tipo que tenha valores. Uma série copiada substitui os valores\n"
+        "do destino data a data e é gravada no banco de dados do destino. Um elemento cujo\n"
+        "homônimo é de outro tipo (um reservatório com o nome de uma junção; demandas de qualquer\n"
+        "uso são um só tipo, e também os trechos) é ignorado, assim como aquele cujas séries dos\n"
+        "tipos pedidos não têm valor. Os resultados gravados do destino são mantidos, com um "
+        "aviso\n"
+        "de que correspondem às entradas anteriores. Mostra uma linha por elemento copiado ou de\n"
+        "outro tipo, os elementos sem homônimo e depois um resumo que os conta, e também os que\n"
+        "não têm nada a copiar.\n"
+        "Código de saída: 0 copiado, 1 nada copiado, 2 erro de uso ou de arquivo.\n"}},
       {"export",
        {"csv: the results of the latest stored run, one CSV file per element and window, in a\n"
         "folder named after the scenario. inputs: the input series, one CSV file per element.\n"
-        "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n",
+        "cav: the level-area-volume tables of the reservoirs, in <scenario>_cav.txt.\n"
+        "dot: the network as a Graphviz digraph in FILE (draw it with 'dot -Tsvg FILE'): a\n"
+        "line per link, labelled with its name, then a line per node, shaped and coloured by\n"
+        "kind. By priorities, reservoirs and demands add P=<priority> to their label; in a\n"
+        "guarantee curve, each reservoir of the curve adds Q90=<flow> (m³/s, the stored curve\n"
+        "at 90 %), in a system curve the out reservoir, and Q90=- when the stored curve has no\n"
+        "flow of 90 % for it (not run, or the level not reached).\n"
+        "kml: the reservoirs as points and the links as lines, in FILE, for map viewers; X is\n"
+        "the longitude and Y the latitude, as the project holds them.\n"
+        "FILE appears whole or not at all.\n",
         "csv: os resultados da última execução gravada, um arquivo CSV por elemento e janela,\n"
         "numa pasta com o nome do cenário. inputs: as séries de entrada, um arquivo CSV por\n"
-        "elemento. cav: as tabelas cota-área-volume dos reservatórios, em <cenário>_cav.txt.\n"}},
+        "elemento. cav: as tabelas cota-área-volume dos reservatórios, em <cenário>_cav.txt.\n"
+        "dot: a rede como um digraph do Graphviz em FILE (desenhe-o com 'dot -Tsvg FILE'): uma\n"
+        "linha por trecho, rotulada com seu nome, depois uma linha por nó, com forma e cor\n"
+        "conforme o tipo. Por prioridades, reservatórios e demandas acrescentam P=<prioridade>\n"
+        "ao rótulo; numa curva de garantia, cada reservatório da curva acrescenta Q90=<vazão>\n"
+        "(m³/s, a curva gravada a 90 %), numa curva do sistema o reservatório de saída, e\n"
+        "Q90=- quando a curva gravada não tem vazão de 90 % para ele (não executada, ou o nível\n"
+        "não alcançado).\n"
+        "kml: os reservatórios como pontos e os trechos como linhas, em FILE, para visualizadores\n"
+        "de mapas; X é a longitude e Y a latitude, como o projeto os guarda.\n"
+        "FILE aparece inteiro ou não aparece.\n"}},
       {"generate",
        {"Writes OUT.sjson and OUT.sjson.sqlite: one scenario over T months from January 1901\n"
         "with N reservoirs (1 to 1000) in a tree of tributaries, M demands (0 to 5000) of every\n"
@@ -565,6 +693,29 @@ const std::unordered_map<std::string, std::pair<std::string, std::string>>& help
         "períodos. O cenário é gravado no projeto.\n"
         "Código de saída: 0 criado, 2 erro de uso ou de arquivo (sem execução gravada, o cenário\n"
         "já existe), 3 cancelado.\n"}},
+      {"convert",
+       {"Makes the scenario \"NAME-<kind>\" (or --name NEW) of another kind out of the scenario\n"
+        "NAME, over a copy of its network, input series and period, and saves it into the\n"
+        "project; NAME is left as it is. What has a meaning in the new kind is carried over:\n"
+        "out of priorities, each reservoir releases the mean of its releases in the stored run\n"
+        "(the scenario runs first when it has none) and each node shares its outflow as its\n"
+        "links carried it; into an optimisation or a system curve, each rule becomes its\n"
+        "optimisable twin, its releases left to the swarm; back to rules, each optimisable rule\n"
+        "becomes the simulation rule of its present numbers; a guarantee curve asks for the\n"
+        "curve of every enabled reservoir. The README tells the whole list.\n"
+        "Exit status: 0 made, 2 usage or file error (the kind it has, the name exists), 3\n"
+        "cancelled.\n",
+        "Cria o cenário \"NAME-<tipo>\" (ou --name NOVO) de outro tipo a partir do cenário NAME,\n"
+        "sobre uma cópia de sua rede, de suas séries de entrada e de seu período, e o grava no\n"
+        "projeto; NAME fica como está. O que tem sentido no novo tipo é levado: a partir de\n"
+        "prioridades, cada reservatório libera a média de suas liberações na execução gravada\n"
+        "(o cenário é executado antes quando não tem uma) e cada nó reparte sua vazão de saída\n"
+        "como seus trechos a levaram; para uma otimização ou curva de sistema, cada regra se\n"
+        "torna sua gêmea otimizável, com as liberações deixadas ao enxame; de volta a regras,\n"
+        "cada regra otimizável se torna a regra de simulação de seus números atuais; uma curva\n"
+        "de garantia pede a curva de cada reservatório habilitado. O README traz a lista toda.\n"
+        "Código de saída: 0 criado, 2 erro de uso ou de arquivo (o tipo que já tem, o nome\n"
+        "existe), 3 cancelado.\n"}},
       {"solution",
        {"Makes the rule scenario \"NAME-SOL-I\" out of row I of the stored front of the rule\n"
         "optimisation NAME (the rows 'kova front' prints): the same network and period, run\n"

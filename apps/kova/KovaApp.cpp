@@ -5,6 +5,8 @@
 
 #include "CheckCommand.h"
 #include "CompareCommand.h"
+#include "ConvertCommand.h"
+#include "CopySeriesCommand.h"
 #include "CurveCommand.h"
 #include "DemoCommand.h"
 #include "DeriveRulesCommand.h"
@@ -14,6 +16,7 @@
 #include "FrontCommand.h"
 #include "GenerateCommand.h"
 #include "HostText.h"
+#include "ImportShapesCommand.h"
 #include "InfoCommand.h"
 #include "MetricsCommand.h"
 #include "NewCommand.h"
@@ -43,12 +46,13 @@ bool asksForHelp(const std::vector<std::string>& args) {
 
 const std::vector<Command>& KovaApp::commands() {
   static const std::vector<Command> all = {
-      InfoCommand::describe(),        CheckCommand::describe(),  RunCommand::describe(),
-      MetricsCommand::describe(),     SeriesCommand::describe(), CompareCommand::describe(),
-      FrontCommand::describe(),       CurveCommand::describe(),  SolutionCommand::describe(),
-      DeriveRulesCommand::describe(), ReportCommand::describe(), ExportCommand::describe(),
-      NewCommand::describe(),         SaveAsCommand::describe(), DemoCommand::describe(),
-      GenerateCommand::describe(),    ServeCommand::describe(),  UpdateCommand::describe()};
+      InfoCommand::describe(),        CheckCommand::describe(),        RunCommand::describe(),
+      MetricsCommand::describe(),     SeriesCommand::describe(),       CompareCommand::describe(),
+      FrontCommand::describe(),       CurveCommand::describe(),        SolutionCommand::describe(),
+      DeriveRulesCommand::describe(), ReportCommand::describe(),       ExportCommand::describe(),
+      NewCommand::describe(),         SaveAsCommand::describe(),       DemoCommand::describe(),
+      GenerateCommand::describe(),    ServeCommand::describe(),        UpdateCommand::describe(),
+      CopySeriesCommand::describe(),  ImportShapesCommand::describe(), ConvertCommand::describe()};
   return all;
 }
 

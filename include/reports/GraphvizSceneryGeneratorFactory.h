@@ -5,12 +5,12 @@
 
 class Scenario;
 
-// Writes the Graphviz drawing of a scenario with the generator of its kind:
-//   0 priorities            makePriority GraphvizScenarioGenerator::generateFileWithPriority 1
-//   rules                 makeRule                  GraphvizScenarioGenerator::generateFile 2 rule
-//   optimisation     makeOptRule               GraphvizScenarioGenerator::generateFile 3 guarantee
-//   curve       makeGuaranteeCurve        ...::generateFileWithGuaranteeCurve 4 system guarantee
-//   makeSystemGuaranteeCurve  ...::generateFileWithSystemGuaranteeCurve
+// Writes the Graphviz drawing of a scenario with the generator of its kind: a scenario by
+// priorities (0) through makePriority and GraphvizScenarioGenerator::generateFileWithPriority; by
+// rules (1) through makeRule and a rule optimisation (2) through makeOptRule, both with
+// GraphvizScenarioGenerator::generateFile; a guarantee curve (3) through makeGuaranteeCurve and
+// generateFileWithGuaranteeCurve; a system guarantee curve (4) through makeSystemGuaranteeCurve
+// and generateFileWithSystemGuaranteeCurve.
 class GraphvizSceneryGeneratorFactory {
  public:
   // Throws std::invalid_argument "GraphvizSceneryGeneratorFactory::make(): invalid scenario" for

@@ -13,10 +13,10 @@ class Node;
 // node. Positions are Node::getX() as longitude and Node::getY() as latitude, as the nodes hold
 // them (no conversion whatever the coordinate system), written "x,y,2357" with the precision of
 // the stream (make sets 17 significant digits and the classic locale); 2357 is a constant
-// altitude. Every line is written as the format of our maps has it, blanks included ("Paths ", "1
-// ",
-// "#yellowLineGreenPoly "); the reservoir's "<styleUrl>#reservoir</styleUrl>" has no line break
-// behind it there, so "<Point>" follows on its line.
+// altitude. Every line is written as the format of our maps has it, blanks included (the names
+// "Paths " and "Absolute Extruded ", the width "1 ", the style "#yellowLineGreenPoly "); the
+// reservoir's "<styleUrl>#reservoir</styleUrl>" has no line break behind it, so "<Point>"
+// follows on its line.
 //
 // Names are written as XML text: '&' as "&amp;", '<' as "&lt;", '>' as "&gt;", and a control
 // character that XML 1.0 cannot hold (below 0x20, but tab, line feed and carriage return) as a

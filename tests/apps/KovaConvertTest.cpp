@@ -13,14 +13,6 @@ namespace {
 const std::string kRules = "Regras";
 const std::string kPriority = "Prioridades";
 
-std::string seriesOf(const std::string& project, const std::string& scenario,
-                     const std::string& element, const std::string& kind) {
-  const auto series = kova({"series", project, "--scenario", scenario, "--element", element,
-                            "--kind", kind, "--format", "csv"});
-  EXPECT_EQ(series.status, exitOk) << series.err;
-  return series.out;
-}
-
 }  // namespace
 
 // Rules become priorities and back: the scenarios are saved, keep the rule scenario's inputs,
@@ -50,9 +42,9 @@ TEST(KovaConvert, RulesToPrioritiesAndBackAreSavedWithTheSameInputsAndRun) {
     EXPECT_EQ(kova({"run", project, "--scenario", scenario, "--quiet"}).status, exitOk) << scenario;
   }
   // The natural inflow of a lake, an input, travels unchanged.
-  const std::string inflow = seriesOf(project, kRules, "Sobradinho", "2");
-  EXPECT_EQ(seriesOf(project, "De volta", "Sobradinho", "2"), inflow);
-  EXPECT_EQ(seriesOf(project, priorities, "Sobradinho", "2"), inflow);
+  const std::string inflow = seriesCsv(project, kRules, "Sobradinho", "2");
+  EXPECT_EQ(seriesCsv(project, "De volta", "Sobradinho", "2"), inflow);
+  EXPECT_EQ(seriesCsv(project, priorities, "Sobradinho", "2"), inflow);
 }
 
 TEST(KovaConvert, RefusesAnUnknownKindTheKindItHasAndANameTaken) {

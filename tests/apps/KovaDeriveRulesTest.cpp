@@ -17,10 +17,7 @@ const char* const kReservoirs[] = {"Retiro Baixo", "Três Marias", "Queimado", "
 
 std::string releases(const std::string& project, const std::string& scenario,
                      const std::string& reservoir) {
-  const auto series = kova({"series", project, "--scenario", scenario, "--element", reservoir,
-                            "--kind", "35", "--format", "csv"});
-  EXPECT_EQ(series.status, exitOk) << series.err;
-  return series.out;
+  return seriesCsv(project, scenario, reservoir, "35");
 }
 
 }  // namespace

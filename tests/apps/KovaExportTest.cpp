@@ -297,16 +297,3 @@ TEST_F(KovaExport, AFolderWithoutPermissionOrAFullDiskLeavesNoFile) {
   }
   umount(disk.c_str());
 }
-
-TEST_F(KovaExport, AnExistingFileIsReplacedWhole) {
-  const std::string dot = folder.file("rede.dot");
-  writeFile(dot, std::string(200000, 'x'));
-  ASSERT_EQ(
-      kova({"export", "dot", project, "--scenario", "Regras", "--out", dot, "--quiet"}).status,
-      exitOk);
-  const std::string text = readFile(dot);
-  EXPECT_EQ(text.rfind("digraph G {\n", 0), 0u);
-  EXPECT_EQ(text.find('x' + std::string(10, 'x')), std::string::npos);
-  EXPECT_EQ(filesIn(folder.root()), (std::vector<std::string>{"rede.dot", "sao_francisco.sjson",
-                                                              "sao_francisco.sjson.sqlite"}));
-}

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "ExitStatus.h"
 #include "HostText.h"
 #include "KovaApp.h"
 
@@ -26,4 +29,13 @@ inline Outcome kova(const std::vector<std::string>& args) {
 // How many lines a text kova printed holds.
 inline std::size_t linesOf(const std::string& text) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+// One element's series of one kind (a name or number) in the stored run, as csv.
+inline std::string seriesCsv(const std::string& project, const std::string& scenario,
+                             const std::string& element, const std::string& kind) {
+  const auto series = kova({"series", project, "--scenario", scenario, "--element", element,
+                            "--kind", kind, "--format", "csv"});
+  EXPECT_EQ(series.status, exitOk) << series.err;
+  return series.out;
 }
